@@ -1,0 +1,28 @@
+include(GoogleTest)
+find_package(GTest REQUIRED)
+
+# skelda_add_test(<name> SOURCES ... [LIBS ...] [LABELS ...] [ENV ...] [TIMEOUT s] [OWN_MAIN])
+# OWN_MAIN: the sources bring main() (for example to create a QApplication first).
+# One small test binary per unit; its cases are registered one by one with CTest.
+# Qt always runs headless here.
+function(skelda_add_test name)
+  cmake_parse_arguments(T "OWN_MAIN" "TIMEOUT" "SOURCES;LIBS;LABELS;ENV" ${ARGN})
+  if(NOT T_TIMEOUT)
+    set(T_TIMEOUT 120)
+  endif()
+  add_executable(${name} ${T_SOURCES})
+  target_link_libraries(${name} PRIVATE skelda_flags skelda_test_support GTest::gtest GTest::gmock ${T_LIBS})
+  if(NOT T_OWN_MAIN)
+    target_link_libraries(${name} PRIVATE GTest::gtest_main)
+  endif()
+  set(_labels ${T_LABELS})
+  if(NOT _labels)
+    set(_labels unit)
+  endif()
+  gtest_discover_tests(${name}
+    DISCOVERY_TIMEOUT 60
+    PROPERTIES
+      LABELS "${_labels}"
+      TIMEOUT ${T_TIMEOUT}
+      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SKELDA_TEST_BIN_DIR=${CMAKE_BINARY_DIR};${T_ENV}")
+endfunction()

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs what is missing, configures, builds and runs the whole test suite.
+#   scripts/test.sh                 plain build in build/
+#   scripts/test.sh --sanitize address|thread   sanitized build in build-<kind>/
+# Extra arguments after "--" go to ctest (for example -L e2e or -LE slow).
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+sanitize=""
+ctest_args=()
+while [ $# -gt 0 ]; do
+  case "$1" in
+    --sanitize) sanitize="$2"; shift 2 ;;
+    --) shift; ctest_args=("$@"); break ;;
+    *) echo "usage: $0 [--sanitize address|thread] [-- ctest args]" >&2; exit 2 ;;
+  esac
+done
+
+scripts/install-deps.sh
+
+build="build${sanitize:+-$sanitize}"
+werror=OFF
+[ -n "${CI:-}" ] && werror=ON
+cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+  -DSKELDA_SANITIZE="$sanitize" -DSKELDA_WERROR="$werror" -DSKELDA_BENCH=OFF >/dev/null
+cmake --build "$build" -j"$(nproc)"
+
+export QT_QPA_PLATFORM=offscreen
+export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
+export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1${UBSAN_OPTIONS:+:$UBSAN_OPTIONS}"
+export TSAN_OPTIONS="halt_on_error=1${TSAN_OPTIONS:+:$TSAN_OPTIONS}"
+ctest --test-dir "$build" --output-on-failure -j"$(nproc)" "${ctest_args[@]}"

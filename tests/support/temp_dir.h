@@ -1,0 +1,36 @@
+#pragma once
+// A fresh folder per test, with HOME pointed into it so that nothing touches
+// the real home folder. The folder is removed when the test passes and kept,
+// with its path printed, when it fails, so the failure can be looked at.
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace skelda_test {
+
+class TempDirTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // The test's own folder and the HOME it was given (a sub-folder "home").
+    const std::string& dir() const { return dir_; }
+    const std::string& home() const { return home_; }
+    std::string path(const std::string& rel) const { return dir_ + "/" + rel; }
+
+private:
+    std::string dir_;
+    std::string home_;
+    std::string saved_home_;
+    bool had_home_ = false;
+};
+
+// Small file helpers for arranging a test's disk; each one fails the test on error.
+void WriteFile(const std::string& path, const std::string& content);
+std::string ReadFile(const std::string& path);
+void MakeDirs(const std::string& path);
+bool Exists(const std::string& path);  // lstat: a dangling link exists
+void RemoveTree(const std::string& path);
+
+}  // namespace skelda_test
