@@ -37,9 +37,35 @@ const QStringList kSameInEveryLanguage = {"Skelda Backup", "%1 / %2"};
 // the product name kept as is). Each entry is the English text; add one only when the
 // language's translator confirms it.
 const QMap<QString, QStringList> kSameAsEnglish = {
-    {"chs", {}}, {"cht", {}}, {"csy", {}}, {"dan", {}}, {"fre", {}}, {"ger", {}}, {"hun", {}},
-    {"ita", {}}, {"jpn", {}}, {"krn", {}}, {"nld", {}}, {"nor", {}}, {"plk", {}}, {"ptb", {}},
-    {"ptg", {}}, {"rus", {}}, {"spn", {}}, {"sve", {}}, {"trk", {}},
+    {"chs", {}},
+    {"cht", {}},
+    {"csy", {"OK", "Port", "Proxy", "Server"}},
+    {"dan",
+     {"OK", "Type", "Status", "April", "August", "December", "November", "September",
+      "Download", "Weekend", "Port", "Filter", "Proxy", "Version %1", "Server"}},
+    {"fre", {"OK", "Type", "Action", "Port", "Options", "Proxy", "Minute", "Version %1"}},
+    {"ger",
+     {"Dialog", "OK", "Name", "Status", "April", "August", "November", "September", "Port",
+      "Filter", "Proxy", "Minute", "Upgrade", "Version %1", "Server"}},
+    {"hun", {"OK", "December", "November", "Port", "Proxy"}},
+    {"ita", {"OK", "No", "Password", "File", "Proxy", "Account", "Server"}},
+    {"jpn", {"OK"}},
+    {"krn", {}},
+    {"nld",
+     {"OK", "Type", "%1 items", "Status", "April", "December", "November", "September",
+      "Weekend", "Filter", "Proxy", "Week", "Help", "Account", "Server"}},
+    {"nor",
+     {"OK", "Type", "Status", "April", "August", "November", "September", "Port", "Filter",
+      "Proxy", "Server"}},
+    {"plk", {"OK", "Weekend", "Port", "Folder"}},
+    {"ptb", {"OK", "Status", "Proxy"}},
+    {"ptg", {"OK", "Proxy"}},
+    {"rus", {}},
+    {"spn", {"No", "Error", "Proxy"}},
+    {"sve",
+     {"Information", "OK", "Status", "April", "December", "November", "September", "Port",
+      "Filter", "Proxy", "Version %1", "Server"}},
+    {"trk", {"Proxy"}},
 };
 
 QString Utf8(const char* text)
