@@ -19,10 +19,15 @@ function(skelda_add_test name)
   if(NOT _labels)
     set(_labels unit)
   endif()
-  gtest_discover_tests(${name}
-    DISCOVERY_TIMEOUT 60
-    PROPERTIES
-      LABELS "${_labels}"
-      TIMEOUT ${T_TIMEOUT}
-      ENVIRONMENT "QT_QPA_PLATFORM=offscreen;SKELDA_TEST_BIN_DIR=${CMAKE_BINARY_DIR};${T_ENV}")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${T_TIMEOUT})
+  # gtest_discover_tests splits list-valued properties, so the environment and the labels
+  # are set on the discovered cases by a file that CTest reads after the discovered list.
+  set(_env QT_QPA_PLATFORM=offscreen SKELDA_TEST_BIN_DIR=${CMAKE_BINARY_DIR} ${T_ENV})
+  set(_props ${CMAKE_CURRENT_BINARY_DIR}/${name}_properties.cmake)
+  file(GENERATE OUTPUT ${_props} CONTENT
+"if(DEFINED ${name}_TESTS)
+  set_tests_properties(\${${name}_TESTS} PROPERTIES ENVIRONMENT \"${_env}\" LABELS \"${_labels}\")
+endif()
+")
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES ${_props})
 endfunction()
