@@ -1,0 +1,41 @@
+// macOS: the stored spelling comes from CoreServices file references, which know the
+// on-disk letter case and Unicode composition of case-insensitive volumes.
+
+#include "fs-platform.h"
+
+#include <CoreServices/CoreServices.h>
+#include <sys/mount.h>
+#include <sys/param.h>
+
+#include <cerrno>
+#include <cstring>
+
+int StoredSpelling(const char* path, bool follow_leaf, char* buf, size_t size) {
+    std::memset(buf, 0, size);
+    FSRef ref;
+    OSStatus status = follow_leaf
+        ? FSPathMakeRef(reinterpret_cast<const UInt8*>(path), &ref, nullptr)
+        : FSPathMakeRefWithOptions(reinterpret_cast<const UInt8*>(path),
+                                   kFSPathMakeRefDoNotFollowLeafSymlink, &ref, nullptr);
+    if (status != noErr)
+        return static_cast<int>(status);
+    return static_cast<int>(FSRefMakePath(&ref, reinterpret_cast<UInt8*>(buf),
+                                          static_cast<UInt32>(size)));
+}
+
+int FileSystemTypeName(const char* path, std::string& name) {
+    struct statfs fs;
+    if (statfs(path, &fs) != 0)
+        return -1;
+    name = fs.f_fstypename;
+    return 0;
+}
+
+ssize_t CopyInKernel(int, int, size_t) {
+    errno = ENOSYS;  // copies go through the caller's buffer
+    return -1;
+}
+
+void StartWriteback(int, off_t, off_t) {
+    // The unified buffer cache of macOS streams large writes out by itself.
+}
