@@ -1,0 +1,208 @@
+#include "extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cstdio>
+#include <memory>
+
+#include "log/log.h"
+#include "notify-adapter.h"
+#include "str-table.h"
+
+namespace {
+
+const char kComponent[] = "extractor_debug";
+
+// libarchive reads the file in blocks of this size.
+constexpr size_t kBlockSize = 10240;
+
+// An existing file in the way is replaced, names with ".." are refused, macOS metadata is
+// restored. Owner, permissions, times, ACLs, flags, xattrs and symlink checks stay off:
+// the package is our own and is written by and for the logged-in user.
+constexpr int kExtractFlags = ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT |
+                              ARCHIVE_EXTRACT_MAC_METADATA;
+static_assert(kExtractFlags == 8720, "extraction options changed");
+
+// The text of the string table's row 57 ("desc_skld_env_preparing").
+constexpr int kPreparingStrId = 57;
+
+// Owners that free their libarchive object on every path out of an operation.
+struct ReadFree {
+    void operator()(archive* a) const { archive_read_free(a); }
+};
+struct WriteFree {
+    void operator()(archive* a) const { archive_write_free(a); }
+};
+using Reader = std::unique_ptr<archive, ReadFree>;
+using Writer = std::unique_ptr<archive, WriteFree>;
+
+const char* ErrorText(archive* a) {
+    const char* text = archive_error_string(a);
+    return text ? text : "";
+}
+
+// The older name of archive_read_support_filter_all, kept by the extraction path on
+// purpose; libarchive marks it deprecated.
+int EnableAllCompressions(archive* a) {
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+    return archive_read_support_compression_all(a);
+#pragma GCC diagnostic pop
+}
+
+}  // namespace
+
+int Extractor::Count() {
+    if (dest_dir.empty() || archive_path.empty()) {
+        SKLOG(ERROR, kComponent, "Invalid argument\n");
+        return -1;
+    }
+    Reader reader(archive_read_new());
+    if (!reader) {
+        SKLOG(ERROR, kComponent, "Allocate archive failed\n");
+        return -1;
+    }
+    archive_read_support_filter_all(reader.get());
+    archive_read_support_format_all(reader.get());
+    if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), kBlockSize) !=
+        ARCHIVE_OK) {
+        SKLOG(ERROR, kComponent, "archive_read_open_filename failed: '%s'\n",
+              ErrorText(reader.get()));
+        return -1;
+    }
+    // The first result other than OK (end, warning or damage) ends the count silently.
+    int count = 0;
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        ++count;
+        archive_read_data_skip(reader.get());
+    }
+    return count;
+}
+
+int Extractor::List() {
+    if (dest_dir.empty() || archive_path.empty()) {
+        SKLOG(ERROR, kComponent, "Invalid argument\n");
+        return -1;
+    }
+    Reader reader(archive_read_new());
+    if (!reader) {
+        SKLOG(ERROR, kComponent, "Allocate archive failed\n");
+        return -1;
+    }
+    archive_read_support_filter_all(reader.get());
+    archive_read_support_format_all(reader.get());
+    if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), kBlockSize) !=
+        ARCHIVE_OK) {
+        SKLOG(ERROR, kComponent, "archive_read_open_filename failed: '%s'\n",
+              ErrorText(reader.get()));
+        return -1;
+    }
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
+        const char* name = archive_entry_pathname(entry);
+        std::printf("%s\n", name ? name : "");
+        std::fflush(stdout);
+        archive_read_data_skip(reader.get());
+    }
+    archive_read_close(reader.get());
+    return 0;
+}
+
+int Extractor::Extract() {
+    if (archive_path.empty() || dest_dir.empty()) {
+        SKLOG(ERROR, kComponent, "Invalid Argument\n");
+        return -1;
+    }
+    SKLOG(DEBUG, kComponent, "decompress from '%s' to '%s'\n", archive_path.c_str_utf8(),
+          dest_dir.c_str_utf8());
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingStrId));
+
+    // An empty archive fails here too, so an empty package never replaces an installation.
+    const int total = Count();
+    if (total < 1) {
+        SKLOG(ERROR, kComponent, "Failed to calculate total file numbers, ret: %d\n", total);
+        return -1;
+    }
+
+    Reader reader(archive_read_new());
+    if (!reader) {
+        SKLOG(ERROR, kComponent, "Allocate extractor failed\n");
+        return -1;
+    }
+    Writer writer(archive_write_disk_new());
+    if (!writer) {
+        SKLOG(ERROR, kComponent, "Allocate extractor failed\n");
+        return -1;
+    }
+    archive_write_disk_set_options(writer.get(), kExtractFlags);
+    EnableAllCompressions(reader.get());
+    archive_read_support_format_all(reader.get());
+    if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), kBlockSize) !=
+        ARCHIVE_OK) {
+        SKLOG(ERROR, kComponent, "Failed to read file '%s' ('%s')\n",
+              archive_path.c_str_utf8(), ErrorText(reader.get()));
+        return -1;
+    }
+
+    for (int n = 1;; ++n) {
+        archive_entry* entry = nullptr;
+        const int r = archive_read_next_header(reader.get(), &entry);
+        if (r == ARCHIVE_EOF)
+            return 0;
+        // Warnings count as failures: a package must read cleanly.
+        if (r != ARCHIVE_OK) {
+            SKLOG(ERROR, kComponent, "archive_read_next_header failed: '%s'\n",
+                  ErrorText(reader.get()));
+            return -1;
+        }
+        const char* name = archive_entry_pathname(entry);
+        if (!name) {
+            SKLOG(ERROR, kComponent, "archive_entry_pathname failed");
+            return -1;
+        }
+        // Only the entry's own path moves below dest_dir; a hard-link target is left as is.
+        ustring target = dest_dir;
+        target += "/";
+        target += name;
+        archive_entry_set_pathname(entry, target.c_str_utf8());
+
+        if (archive_read_extract2(reader.get(), entry, writer.get()) != ARCHIVE_OK) {
+            SKLOG(ERROR, kComponent, "archive_read_extract2 failed: '%s'\n",
+                  ErrorText(writer.get()));
+            return -1;
+        }
+        Notify_Adapter::GetInstance()->UpdateProgress(total, n);
+        if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
+            SKLOG(ERROR, kComponent, "archive_write_finish_entry failed: '%s'\n",
+                  ErrorText(writer.get()));
+            return -1;
+        }
+    }
+}
+
+int Extractor::copy_data(archive* reader, archive* writer) {
+    if (!reader || !writer) {
+        SKLOG(ERROR, kComponent, "Invalid Argument\n");
+        return -1;
+    }
+    for (;;) {
+        const void* buffer = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        const int r = archive_read_data_block(reader, &buffer, &size, &offset);
+        if (r == ARCHIVE_EOF)
+            return 0;
+        if (r != ARCHIVE_OK) {
+            SKLOG(ERROR, kComponent, "archive_read_data_block failed: '%s'\n",
+                  ErrorText(reader));
+            return -1;
+        }
+        if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
+            SKLOG(ERROR, kComponent, "archive_write_data_block failed: '%s'\n",
+                  ErrorText(writer));
+            return -1;
+        }
+    }
+}
