@@ -1,0 +1,135 @@
+#include "mac/mac-service.h"
+
+#include <QDir>
+#include <QString>
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+
+#include "config/config.h"
+#include "file/file-op.h"
+#include "log/log.h"
+#include "mac/bundle-launch.h"
+
+#undef SKLOG_SOURCE_NAME
+#define SKLOG_SOURCE_NAME "mac/mac-service.cpp"
+
+namespace {
+
+const char kComponent[] = "service_debug";
+const int kStopProbes = 5;
+
+// The pid in text as a process id, or 0 when it is not a positive number that fits pid_t.
+// atol would turn "4294967295" into a pid_t of -1, which kill() reads as "every process".
+pid_t PositivePid(const ustring& text) {
+    errno = 0;
+    const long value = std::strtol(text.c_str(), nullptr, 10);
+    if (errno == ERANGE || value <= 0 || static_cast<long>(static_cast<pid_t>(value)) != value)
+        return 0;
+    return static_cast<pid_t>(value);
+}
+
+}  // namespace
+
+MacService::MacService() {
+    timeout = 10000;
+    user_app_path = GetUserSkeldaAppInstallPath();
+}
+
+MacService::~MacService() = default;
+
+MacService* MacService::GetInstace() {
+    static MacService serv;
+    return &serv;
+}
+
+void MacService::PreUpgrade() {
+    LoadTargetVersion();
+    LoadSourceVersion();
+    SKLOG(DEBUG, kComponent, "Source version: ('%s', '%s')\n",
+          source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
+    SKLOG(DEBUG, kComponent, "Target version: ('%s', '%s')\n",
+          target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
+}
+
+bool MacService::PerUserBinPathExist() {
+    const ustring bin = user_app_path + "/" + "Contents/MacOS" + "/" + "skelda-backup-ui";
+    return access(bin.c_str(), F_OK) == 0;
+}
+
+bool MacService::IsNeedUpgrade() {
+    const int32_t s = source_version.build_version.empty()
+                          ? 0
+                          : BuildNumberFromText(source_version.build_version);
+    const int32_t t = target_version.build_version.empty()
+                          ? 0
+                          : BuildNumberFromText(target_version.build_version);
+    SKLOG(DEBUG, kComponent, "source version = %d, target version = %d\n", s, t);
+    const bool bin_exists = PerUserBinPathExist();
+    return !bin_exists || t > s;
+}
+
+void MacService::LoadSourceVerInfo() {
+    LoadSourceVersion();
+}
+
+void MacService::LoadTargetVerInfo() {
+    LoadTargetVersion();
+}
+
+int MacService::HandlePackageUpgrade() {
+    if (PerUserBinPathExist()) {
+        SKLOG(DEBUG, kComponent, "local appdata exist\n");
+        StopService();
+    }
+    return PrepareUserEnv();
+}
+
+void MacService::StopService() {
+    const ustring path = GetUserSkeldaInstallPath() + "/ui.pid";
+    if (!IsFileExist(path, false)) {
+        SKLOG(DEBUG, kComponent, "pid file '%s' does not exist, no need to terminate\n",
+              path.c_str());
+        return;
+    }
+    Config config;
+    if (config.read(path) < 0) {
+        SKLOG(NOTE, kComponent, "Failed to read pid file '%s', not exist ?\n", path.c_str());
+        return;
+    }
+    // A missing or empty value, 0, a negative number and text all mean "nothing to stop".
+    const pid_t pid = PositivePid(config["pid"]);
+    if (pid <= 0)
+        return;
+
+    if (kill(pid, SIGTERM) != 0) {
+        if (errno == ESRCH)
+            return;
+        const int err = errno;
+        SKLOG(ERROR, kComponent, "kill: %s (%d)\n", std::strerror(err), err);
+    }
+    for (int probe = 0; probe < kStopProbes; ++probe) {
+        if (probe > 0)
+            sleep(1);
+        if (kill(pid, 0) != 0 && errno == ESRCH)
+            return;
+    }
+    sleep(1);
+    kill(pid, SIGKILL);
+}
+
+int MacService::LaunchPerUserBin() {
+    const QString app = QDir::homePath() + QStringLiteral("/.SkeldaBackup/Skelda.app");
+    if (UnregisterBundle(app) != 0)
+        SKLOG(ERROR, kComponent, "Cannot unregister bundle, %s", app.toUtf8().constData());
+    return OpenBundle(app) ? 0 : -1;
+}
+
+void MacService::PostUpgrade() {
+    if (LaunchPerUserBin() < 0)
+        SKLOG(ERROR, kComponent, "Failed to launch Skelda UI\n");
+}

@@ -1,0 +1,122 @@
+// The upgrade transaction and the folder helpers of Service. Backup and rollback are renames
+// to sibling names inside the per-user installation, so they cost the same for any size of
+// application and never copy anything.
+
+#include "skelda-service.h"
+
+#include "extractor.h"
+#include "file/file-op.h"
+#include "log/log.h"
+
+namespace {
+const char kComponent[] = "service_debug";
+const int kBackupAttempts = 10;  // APP_tmp, APP_tmp1 ... APP_tmp9
+}  // namespace
+
+int Service::PrepareUserEnv() {
+    const ustring app = user_app_path;
+    ustring backup;
+    int n = 0;
+
+    if (IsFileExist(app, false)) {
+        bool moved = false;
+        for (n = 0; n < kBackupAttempts; ++n) {
+            backup = GetAppBackupDir(app, n);
+            if (FSRename(app, backup, false) == 0) {
+                moved = true;
+                break;
+            }
+            SKLOG(ERROR, kComponent, "failed to backup app from '%s' -> '%s'\n", app.c_str(),
+                  backup.c_str());
+        }
+        if (!moved) {
+            SKLOG(ERROR, kComponent,
+                  "failed to backup app from '%s' -> '%s' at max retries, exiting\n",
+                  app.c_str(), backup.c_str());
+            return -1;
+        }
+    }
+
+    if (ExtractPackage() != 0) {
+        if (backup.empty()) {
+            SKLOG(ERROR, kComponent,
+                  "Failed to extract package, and no old installation to rollback\n");
+            return -1;
+        }
+        SKLOG(ERROR, kComponent, "Failed to extract package, rollback to old installation\n");
+        FSRemove(app, false);
+        FSRename(backup, app, false);
+        return -1;
+    }
+
+    SKLOG(INFO, kComponent, "user installation is ready, removing backup app\n");
+    // Also removes the leftovers that blocked the earlier attempts.
+    for (int j = 0; j <= n; ++j)
+        FSRemove(GetAppBackupDir(app, j), false);
+    return 0;
+}
+
+int Service::ExtractPackage() {
+    const ustring package = GetRootSkeldaResourceInstallPath() + "/package/skelda.vpk";
+    const ustring destination = GetUserSkeldaAppInstallPath();
+    if (FSMKDir(destination, true) < 0) {
+        SKLOG(ERROR, kComponent, "failed to create folder: '%s'\n", destination.c_str());
+        return -1;
+    }
+    SKLOG(INFO, kComponent, "extract package: '%s' -> '%s'\n", package.c_str(),
+          destination.c_str());
+    Extractor extractor;
+    extractor.archive_path = package;
+    extractor.dest_dir = destination;
+    return extractor.Extract();
+}
+
+void Service::RemoveAgedFolders() {
+    const ustring path = GetUserSkeldaInstallPath() + "/app";
+    SKLOG(INFO, kComponent, "removing aged app folder %s\n", path.c_str());
+    FSRemove(path, false);
+}
+
+int Service::FSCopyPath(const ustring& src, const ustring& dst) {
+    SKLOG(DEBUG, kComponent, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, false) < 0) {
+        SKLOG(ERROR, kComponent, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
+        return -1;
+    }
+    if (!info.exists) {
+        SKLOG(ERROR, kComponent, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
+        return -1;
+    }
+    if (info.type != FT_DIR)
+        return FSCopy(src, dst, false) < 0 ? -1 : 0;
+
+    if (FSMKDir(dst, true) < 0) {
+        SKLOG(ERROR, kComponent, "FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
+        return -1;
+    }
+    DIR_HANDLE handle;
+    if (FSOpenDir(src, 0, handle) < 0) {
+        // The folder counts as copied: dst stays as an empty folder.
+        SKLOG(WARNING, kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n",
+              src.c_str());
+        return 0;
+    }
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) > 0) {
+        if (entry.name == ".." || entry.name == ".")
+            continue;
+        const ustring child_src = src + "/" + entry.name;
+        const ustring child_dst = dst + "/" + entry.name;
+        const int rc = entry.type == FT_DIR ? FSCopyPath(child_src, child_dst)
+                                            : FSCopy(child_src, child_dst, false);
+        if (rc < 0) {
+            SKLOG(ERROR, kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n",
+                  child_src.c_str(), child_dst.c_str());
+            FSCloseDir(handle);
+            return -1;
+        }
+    }
+    FSCloseDir(handle);
+    return 0;
+}
