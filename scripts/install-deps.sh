@@ -11,7 +11,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev
   xvfb xauth imagemagick x11-utils
-  procps util-linux hyperfine time
+  procps util-linux hyperfine time python3
 )
 
 missing=()

@@ -1,1 +1,61 @@
-int main() { return 0; }
+// The launcher's entry: process-wide set-up in a fixed order, the single-instance refusal,
+// then the Launcher and the event loop. The order matters: the plug-in folder is set before
+// the application object exists; the log is set up before the single-instance test, so a
+// refused second instance writes into the same log as the running one; the translator and
+// the string table are complete before the Launcher builds its dialog and starts the
+// worker thread, which then only reads them.
+
+#include <clocale>
+#include <cstdio>
+
+#include <QDir>
+#include <QStringList>
+#include <QTranslator>
+
+#include "launcher.h"
+#include "log/log.h"
+#include "single-application.h"
+#include "skelda-service.h"
+#include "str-table.h"
+#include "varn-locale.h"
+
+int main(int argc, char* argv[]) {
+    setlocale(LC_ALL, "");
+    Q_INIT_RESOURCE(texts);
+
+    // The executable's path as given, not resolved: a relative path gives a relative folder.
+    const QString plugin_dir = QDir::cleanPath(QString::fromLocal8Bit(argv[0]) +
+                                               QStringLiteral("/../../Frameworks/plugins"));
+    QCoreApplication::setLibraryPaths(QStringList(plugin_dir));
+    printf("lib path = '%s'\n", plugin_dir.toUtf8().constData());
+    // The client is started by fork and exec; nothing buffered may be left to duplicate.
+    fflush(stdout);
+
+    SingleApplication app(argc, argv, true);
+
+    const ustring debug_file = Service::GetRootSkeldaInstallPath() + "/log/launcher.debug";
+    const ustring log_dir = Service::GetUserSkeldaInstallPath() + "/log";
+    if (QDir().mkpath(QString::fromUtf8(log_dir.c_str())))
+        Logger::Initialize(Logger::LOGFILE, log_dir + "/launcher.log", debug_file, 50);
+
+    if (app.isRunning()) {
+        SKLOG(DEBUG, "launcher_debug", "app has already launched, return\n");
+        return 0;
+    }
+
+    QTranslator translator(nullptr);
+    const QString code = VarnLocale::getInstance()->getDefaultLanguage();
+    translator.load(QStringLiteral(":/") + code + QStringLiteral(".qm"), QString(), QString(),
+                    QString());
+    if (!translator.isEmpty())
+        QCoreApplication::installTranslator(&translator);
+
+    StrTable::InitStrTable();
+
+    Launcher* launcher = new Launcher();
+    launcher->Run();
+    launcher->Start();
+    const int result = app.exec();
+    delete launcher;
+    return result;
+}

@@ -1,0 +1,98 @@
+#!/usr/bin/env bash
+# Whole-process benchmarks of the launcher, each against a reference run in the same
+# session, printed as ratios:
+#   1. a launcher run with no upgrade needed, to the client started and the process ended,
+#      against bench/launcher/bare_qt.cpp (QApplication + QProgressDialog, then quit):
+#      median wall time and peak resident memory (targets: 1.3x and 1.2x);
+#   2. a full upgrade (stop nothing, back up the old application, extract a package of
+#      3,000 entries, remove the backup) against `bsdtar -xf` of the same package, and
+#      against the same steps done with the tools (list, move aside, extract, remove).
+#   bench/launcher/run.sh [BUILD_DIR] [RUNS]      (defaults: build, 25)
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+root=$(pwd)
+build="${1:-build}" runs="${2:-25}"
+cmake --build "$build" --target skelda-launcher launcher_bench_bare_qt >/dev/null
+launcher="$root/$build/ui-client/launcher/skelda-launcher"
+bare="$root/$build/bench/launcher/launcher_bench_bare_qt"
+
+export QT_QPA_PLATFORM=offscreen
+work=$(mktemp -d)
+export XDG_RUNTIME_DIR="$work/runtime"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+export HOME="$work/home"
+mkdir -p "$HOME"
+trap 'rm -rf "$work"' EXIT
+
+# A client that records its pid like the real one and ends at once, so runs leave nothing.
+client="$work/client"
+printf '#!/bin/sh\nprintf "pid=%%s\\n" "$$" > "$HOME/.SkeldaBackup/ui.pid"\n' >"$client"
+chmod +x "$client"
+
+# measure CMD...: one run; prints "<wall ms> <peak RSS KiB>"
+measure() {
+  local start end
+  start=$(date +%s%N)
+  /usr/bin/time -f %M -o "$work/rss" "$@" >/dev/null 2>&1
+  end=$(date +%s%N)
+  echo "$(( (end - start) / 1000000 )) $(cat "$work/rss")"
+}
+# median FILE COLUMN: the median of one column of measure's output lines
+median() { cut -d' ' -f"$2" "$1" | sort -n | sed -n "$(( ($(wc -l <"$1") + 1) / 2 ))p"; }
+ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.2f", a / b }'; }
+
+echo "machine: $(nproc) cores, $(sed -n 's/^model name\t*: //p' /proc/cpuinfo | head -n 1)"
+
+# 1. No upgrade needed: install once, then time the runs that find the build current.
+tools/make-bundle.sh --launcher "$launcher" --client "$client" --version 1.0.100 \
+  --out "$work/Current.app" >/dev/null
+"$work/Current.app/Contents/MacOS/skelda-launcher" >/dev/null 2>&1
+# Interleaved, so that a change in the machine's load hits both sides alike.
+for _ in $(seq 1 "$runs"); do
+  measure "$work/Current.app/Contents/MacOS/skelda-launcher" >>"$work/launcher"
+  measure "$bare" >>"$work/bare"
+done
+l_ms=$(median "$work/launcher" 1) l_kb=$(median "$work/launcher" 2)
+q_ms=$(median "$work/bare" 1) q_kb=$(median "$work/bare" 2)
+echo "no upgrade:  launcher ${l_ms} ms, ${l_kb} KiB | bare Qt ${q_ms} ms, ${q_kb} KiB |" \
+     "time $(ratio "$l_ms" "$q_ms")x (target 1.3x), memory $(ratio "$l_kb" "$q_kb")x (target 1.2x)"
+
+# 2. Full upgrade of 3,000 entries: 30 folders of 99 files of 1 KiB, plus the bundle's own
+# folders and version file (the tool prints the count).
+big="$work/big"
+mkdir -p "$big/Contents/MacOS" "$big/Contents/Resources"
+cp "$client" "$big/Contents/MacOS/skelda-backup-ui"
+head -c 1024 /dev/urandom >"$work/kib"
+for d in $(seq -w 1 30); do
+  mkdir -p "$big/Contents/Resources/d$d"
+  for f in $(seq -w 1 99); do cp "$work/kib" "$big/Contents/Resources/d$d/f$f"; done
+done
+rm "$big"/Contents/Resources/d30/f9[5-9]
+tools/make-bundle.sh --launcher "$launcher" --client "$big" --version 1.0.200 \
+  --out "$work/Big.app"
+package="$work/Big.app/Contents/Resources/package/skelda.vpk"
+echo "package entries: $(bsdtar -tf "$package" | wc -l)"
+upgrade_runs=5
+info="$HOME/.SkeldaBackup/Skelda.app/Contents/Resources/INFO"
+"$work/Big.app/Contents/MacOS/skelda-launcher" >/dev/null 2>&1  # first installation
+for _ in $(seq 1 "$upgrade_runs"); do
+  printf '[Version]\nbuild_version=199\n' >"$info"  # older again: the next run upgrades
+  measure "$work/Big.app/Contents/MacOS/skelda-launcher"
+  [ "$(sed -n 's/^build_version=//p' "$info")" = 200 ] || { echo "upgrade failed" >&2; exit 1; }
+done >"$work/upgrades"
+for _ in $(seq 1 "$upgrade_runs"); do
+  rm -rf "$work/x" && mkdir "$work/x"
+  measure bsdtar -xf "$package" -C "$work/x"
+done >"$work/untars"
+# The same work as the upgrade done with the tools: count the entries, move the old tree
+# aside, extract, remove the old tree.
+mkdir -p "$work/y"
+for _ in $(seq 1 "$upgrade_runs"); do
+  measure sh -c 'bsdtar -tf "$1" >/dev/null && mv "$2/app" "$2/old" 2>/dev/null
+                 mkdir "$2/app" && bsdtar -xf "$1" -C "$2/app" && rm -rf "$2/old"' \
+    sh "$package" "$work/y"
+done >"$work/same"
+u_ms=$(median "$work/upgrades" 1) t_ms=$(median "$work/untars" 1) s_ms=$(median "$work/same" 1)
+echo "upgrade of 3,000 entries: launcher ${u_ms} ms |" \
+     "bsdtar -xf ${t_ms} ms: $(ratio "$u_ms" "$t_ms")x |" \
+     "count + move + extract + remove with the tools ${s_ms} ms: $(ratio "$u_ms" "$s_ms")x"

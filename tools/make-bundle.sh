@@ -1,0 +1,97 @@
+#!/usr/bin/env bash
+# Assembles a root installation of Skelda Backup as a release does:
+#
+#   <Name>.app/Contents/MacOS/skelda-launcher           the launcher
+#   <Name>.app/Contents/Resources/INFO                  version file of the shipped build
+#   <Name>.app/Contents/Resources/package/skelda.vpk    the client, packed with bsdtar
+#   <Name>.app/Contents/Resources/images/ico_72_skelda.png
+#   <Name>.app/Contents/Frameworks/plugins/platforms    Qt's platform plug-ins (the launcher
+#                                                       makes this its only plug-in folder)
+#   <Name>.app/log/launcher.debug                       optional per-component log levels
+#
+# usage: make-bundle.sh --launcher FILE --client FILE|DIR --version MAJOR.MINOR.BUILD[.ICON]
+#                       --out DIR/<Name>.app [--compress gzip|none] [--debug COMPONENT=LEVEL]...
+#   --client   an application folder (Contents/...), or a single file that becomes the client
+#              executable Contents/MacOS/skelda-backup-ui (for example the sample client)
+#   --debug    a line of log/launcher.debug; --debug all turns DEBUG on for every component
+# An existing --out folder is replaced.
+set -euo pipefail
+
+here=$(cd "$(dirname "$0")" && pwd)
+usage() { sed -n '/^# usage:/,/^# An existing/s/^# \{0,1\}//p' "$0" >&2; exit 2; }
+
+launcher="" client="" version="" out="" compress=gzip
+debug_lines=()
+while [ $# -gt 0 ]; do
+  case "$1" in
+    --launcher) launcher="$2"; shift 2 ;;
+    --client) client="$2"; shift 2 ;;
+    --version) version="$2"; shift 2 ;;
+    --out) out="$2"; shift 2 ;;
+    --compress) compress="$2"; shift 2 ;;
+    --debug)
+      if [ "$2" = all ]; then
+        debug_lines+=(launcher_debug=7 service_debug=7 extractor_debug=7 file_op_debug=7)
+      else
+        debug_lines+=("$2")
+      fi
+      shift 2 ;;
+    *) usage ;;
+  esac
+done
+[ -n "$launcher" ] && [ -n "$client" ] && [ -n "$version" ] && [ -n "$out" ] || usage
+[ -x "$launcher" ] || { echo "make-bundle: no launcher executable at '$launcher'" >&2; exit 1; }
+[ -e "$client" ] || { echo "make-bundle: no client at '$client'" >&2; exit 1; }
+case "$out" in *.app) ;; *) echo "make-bundle: --out must end in .app" >&2; exit 1 ;; esac
+case "$compress" in gzip) tar_z=(-z) ;; none) tar_z=() ;; *) usage ;; esac
+IFS=. read -r major minor build overlay <<<"$version"
+[[ "$build" =~ ^[0-9]+$ ]] || { echo "make-bundle: bad version '$version'" >&2; exit 1; }
+
+write_info() {  # the Qt ini version file read by the launcher
+  mkdir -p "$(dirname "$1")"
+  printf '[Version]\nmajor_version=%s\nminor_version=%s\nbuild_version=%s\n' \
+    "${major:-0}" "${minor:-0}" "$build" >"$1"
+  printf 'icon_overlay_version=%s\n' "${overlay:-0}" >>"$1"
+}
+
+rm -rf "$out"
+res="$out/Contents/Resources"
+mkdir -p "$out/Contents/MacOS" "$res/package" "$res/images" "$out/Contents/Frameworks/plugins"
+cp "$launcher" "$out/Contents/MacOS/skelda-launcher"
+write_info "$res/INFO"
+cp "$here/icon/ico_72_skelda.png" "$res/images/ico_72_skelda.png"
+
+plugins=$(qtpaths --plugin-dir 2>/dev/null || true)
+[ -d "$plugins/platforms" ] || plugins=/usr/lib/x86_64-linux-gnu/qt5/plugins
+for kind in platforms xcbglintegrations; do
+  if [ -d "$plugins/$kind" ]; then cp -R "$plugins/$kind" "$out/Contents/Frameworks/plugins/"; fi
+done
+
+if [ ${#debug_lines[@]} -gt 0 ]; then
+  mkdir -p "$out/log"
+  printf '%s\n' "${debug_lines[@]}" >"$out/log/launcher.debug"
+fi
+
+# The package: the client application's tree, entries named relative to the application
+# folder, with its own version file. The version file goes in as the very last entry: a
+# launcher killed in the middle of an extraction then leaves an application whose version
+# file is missing (or the older one), so its build reads as older than the shipped one and
+# the next run upgrades again and repairs it. An application can only read as current
+# once everything before its version file is on disk.
+stage=$(mktemp -d)
+trap 'rm -rf "$stage"' EXIT
+if [ -d "$client" ]; then
+  cp -R "$client/." "$stage/"
+else
+  mkdir -p "$stage/Contents/MacOS"
+  cp "$client" "$stage/Contents/MacOS/skelda-backup-ui"
+  chmod 755 "$stage/Contents/MacOS/skelda-backup-ui"
+fi
+write_info "$stage/Contents/Resources/INFO"
+list="$stage.list"
+trap 'rm -rf "$stage" "$list"' EXIT
+(cd "$stage" && find . -mindepth 1 ! -path ./Contents/Resources/INFO) |
+  sed 's|^\./||' | LC_ALL=C sort >"$list"
+echo Contents/Resources/INFO >>"$list"
+bsdtar -c "${tar_z[@]}" -n -f "$res/package/skelda.vpk" -C "$stage" -T "$list"
+echo "bundle: $out (build $build, $(wc -l <"$list") package entries)"

@@ -1,0 +1,28 @@
+#pragma once
+// The launcher's application object: a QApplication that also knows whether another
+// launcher already runs for the same user and the same executable.
+//
+// The identity is a lock file named from the user id and a hash of the absolute path of
+// the running executable, in the user's runtime folder (XDG_RUNTIME_DIR, else /tmp). The
+// first instance holds an exclusive flock() on it for the life of the process. The kernel
+// drops the lock when the process ends in any way, a crash or SIGKILL included, so no
+// stale state survives, and taking the lock is atomic, so launchers started together
+// cannot both win. A copy of the launcher at another path has a lock of its own.
+
+#include <QApplication>
+
+class SingleApplication : public QApplication {
+    Q_OBJECT
+
+public:
+    // `gui` is kept for the shape of the call sites; a Qt 5 QApplication always has a GUI.
+    SingleApplication(int& argc, char** argv, bool gui = true);
+    ~SingleApplication() override;
+
+    // True when another process already held the lock when this one was constructed.
+    bool isRunning() const { return running_; }
+
+private:
+    int lock_fd_ = -1;
+    bool running_ = false;
+};
