@@ -7,13 +7,8 @@
 #   scripts/demo.sh            (SKELDA_BUILD_DIR picks another build folder than build/)
 set -euo pipefail
 cd "$(dirname "$0")/.."
-root=$(pwd)
 
-scripts/install-deps.sh
-build="${SKELDA_BUILD_DIR:-build}"
-cmake -S . -B "$build" -G Ninja >/dev/null
-cmake --build "$build" --target skelda-launcher -j"$(nproc)" | tail -n 1
-launcher="$root/$build/ui-client/launcher/skelda-launcher"
+launcher=$(scripts/build-launcher.sh)
 
 [ -n "${DISPLAY:-}" ] || export QT_QPA_PLATFORM=offscreen
 work=$(mktemp -d)

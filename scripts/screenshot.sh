@@ -8,11 +8,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$(pwd)
 
-scripts/install-deps.sh
-build="${SKELDA_BUILD_DIR:-build}"
-cmake -S . -B "$build" -G Ninja >/dev/null
-cmake --build "$build" --target skelda-launcher -j"$(nproc)" | tail -n 1
-launcher="$root/$build/ui-client/launcher/skelda-launcher"
+launcher=$(scripts/build-launcher.sh)
 client="$root/tools/sample-client/skelda-backup-ui"
 
 work=$(mktemp -d)

@@ -51,17 +51,17 @@ int EnableAllCompressions(archive* a) {
 #pragma GCC diagnostic pop
 }
 
-}  // namespace
-
-int Extractor::Count() {
+// Opens the archive for a pass over its headers, as Count and List read it. Logs and gives
+// an empty reader when a path is missing or the archive cannot be opened.
+Reader OpenHeaderPass(const ustring& dest_dir, const ustring& archive_path) {
     if (dest_dir.empty() || archive_path.empty()) {
         SKLOG(ERROR, kComponent, "Invalid argument\n");
-        return -1;
+        return nullptr;
     }
     Reader reader(archive_read_new());
     if (!reader) {
         SKLOG(ERROR, kComponent, "Allocate archive failed\n");
-        return -1;
+        return nullptr;
     }
     archive_read_support_filter_all(reader.get());
     archive_read_support_format_all(reader.get());
@@ -69,8 +69,17 @@ int Extractor::Count() {
         ARCHIVE_OK) {
         SKLOG(ERROR, kComponent, "archive_read_open_filename failed: '%s'\n",
               ErrorText(reader.get()));
-        return -1;
+        return nullptr;
     }
+    return reader;
+}
+
+}  // namespace
+
+int Extractor::Count() {
+    Reader reader = OpenHeaderPass(dest_dir, archive_path);
+    if (!reader)
+        return -1;
     // The first result other than OK (end, warning or damage) ends the count silently.
     int count = 0;
     archive_entry* entry = nullptr;
@@ -82,23 +91,9 @@ int Extractor::Count() {
 }
 
 int Extractor::List() {
-    if (dest_dir.empty() || archive_path.empty()) {
-        SKLOG(ERROR, kComponent, "Invalid argument\n");
+    Reader reader = OpenHeaderPass(dest_dir, archive_path);
+    if (!reader)
         return -1;
-    }
-    Reader reader(archive_read_new());
-    if (!reader) {
-        SKLOG(ERROR, kComponent, "Allocate archive failed\n");
-        return -1;
-    }
-    archive_read_support_filter_all(reader.get());
-    archive_read_support_format_all(reader.get());
-    if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), kBlockSize) !=
-        ARCHIVE_OK) {
-        SKLOG(ERROR, kComponent, "archive_read_open_filename failed: '%s'\n",
-              ErrorText(reader.get()));
-        return -1;
-    }
     archive_entry* entry = nullptr;
     while (archive_read_next_header(reader.get(), &entry) == ARCHIVE_OK) {
         const char* name = archive_entry_pathname(entry);
