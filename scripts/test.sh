@@ -18,6 +18,14 @@ done
 
 scripts/install-deps.sh
 
+# Set before the build too: building runs each test binary once to list its cases.
+export QT_QPA_PLATFORM=offscreen
+# Full stacks for allocations, so that the leak suppressions can name Qt's plug-ins.
+export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:fast_unwind_on_malloc=0${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
+export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
+export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1${UBSAN_OPTIONS:+:$UBSAN_OPTIONS}"
+export TSAN_OPTIONS="halt_on_error=1:suppressions=$PWD/tests/tsan.supp${TSAN_OPTIONS:+:$TSAN_OPTIONS}"
+
 build="build${sanitize:+-$sanitize}"
 werror=OFF
 [ -n "${CI:-}" ] && werror=ON
@@ -25,8 +33,4 @@ cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
   -DSKELDA_SANITIZE="$sanitize" -DSKELDA_WERROR="$werror" -DSKELDA_BENCH=OFF >/dev/null
 cmake --build "$build" -j"$(nproc)"
 
-export QT_QPA_PLATFORM=offscreen
-export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
-export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1${UBSAN_OPTIONS:+:$UBSAN_OPTIONS}"
-export TSAN_OPTIONS="halt_on_error=1:suppressions=$PWD/tests/tsan.supp${TSAN_OPTIONS:+:$TSAN_OPTIONS}"
 ctest --test-dir "$build" --output-on-failure -j"$(nproc)" "${ctest_args[@]}"
