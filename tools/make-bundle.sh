@@ -87,6 +87,14 @@ else
   cp "$client" "$stage/Contents/MacOS/skelda-backup-ui"
   chmod 755 "$stage/Contents/MacOS/skelda-backup-ui"
 fi
+# A package without the client would replace a working installation with one that cannot
+# start, and every later run would extract it again.
+[ -x "$stage/Contents/MacOS/skelda-backup-ui" ] ||
+  { echo "make-bundle: the client has no executable Contents/MacOS/skelda-backup-ui" >&2; exit 1; }
+# Hard-link targets are not rewritten below the application when extracting: refuse them.
+if [ -n "$(find "$stage" -type f -links +1 -print -quit)" ]; then
+  echo "make-bundle: the client holds hard links, which a package must not carry" >&2; exit 1
+fi
 write_info "$stage/Contents/Resources/INFO"
 list="$stage.list"
 trap 'rm -rf "$stage" "$list"' EXIT

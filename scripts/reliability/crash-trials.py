@@ -38,8 +38,8 @@ def classify(user, old, new):
     kept = [b for b in backups(user) if common.tree_digest(os.path.join(user, b)) == old]
     if app == old and not kept:
         return "before-backup", None
-    if app == new:
-        return ("before-cleanup" if kept else "after-cleanup"), None
+    if app == new:  # a backup still there, whole or partly removed: clean-up not done
+        return ("before-cleanup" if backups(user) else "after-cleanup"), None
     if len(kept) == 1:
         return "mid-extraction", None
     return None, f"old client lost: APP digest {app}, backups {backups(user)}"

@@ -1,0 +1,102 @@
+"""Shared pieces of the reliability scripts: bundles, throw-away homes, tree digests, and
+the clients that a run started (found by their HOME, so nothing else is ever signalled)."""
+
+import hashlib
+import os
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+MAKE_BUNDLE = os.path.join(ROOT, "tools", "make-bundle.sh")
+SAMPLE_CLIENT = os.path.join(ROOT, "tools", "sample-client", "skelda-backup-ui")
+
+
+def launcher_binary(build_dir):
+    path = os.path.join(build_dir, "ui-client", "launcher", "skelda-launcher")
+    if not os.access(path, os.X_OK):
+        raise SystemExit(f"no launcher at {path}: build first (scripts/test.sh)")
+    return path
+
+
+def make_client_tree(folder, files, size, seed):
+    """A client application folder: the sample client plus `files` filler files."""
+    macos = os.path.join(folder, "Contents", "MacOS")
+    os.makedirs(macos)
+    shutil.copy(SAMPLE_CLIENT, os.path.join(macos, "skelda-backup-ui"))
+    os.chmod(os.path.join(macos, "skelda-backup-ui"), 0o755)
+    for i in range(files):
+        sub = os.path.join(folder, "Contents", "Resources", "data", f"d{i // 200:03d}")
+        os.makedirs(sub, exist_ok=True)
+        with open(os.path.join(sub, f"f{i:05d}.bin"), "wb") as out:
+            out.write(hashlib.sha256(f"{seed}-{i}".encode()).digest() * (size // 32))
+
+
+def make_bundle(launcher, client, version, out, debug_all=True, compress="gzip"):
+    cmd = [MAKE_BUNDLE, "--launcher", launcher, "--client", client, "--version", version,
+           "--out", out, "--compress", compress]
+    if debug_all:
+        cmd += ["--debug", "all"]
+    subprocess.run(cmd, check=True, stdout=subprocess.DEVNULL)
+    return os.path.join(out, "Contents", "MacOS", "skelda-launcher")
+
+
+def tree_digest(folder):
+    """Digest of names, types, link targets and file contents below folder; None if absent."""
+    if not os.path.isdir(folder) or os.path.islink(folder):
+        return None
+    h = hashlib.sha256()
+    for base, dirs, files in os.walk(folder):
+        dirs.sort()
+        rel = os.path.relpath(base, folder)
+        h.update(f"D {rel}\n".encode())
+        for name in sorted(files):
+            p = os.path.join(base, name)
+            if os.path.islink(p):
+                h.update(f"L {rel}/{name} {os.readlink(p)}\n".encode())
+                continue
+            h.update(f"F {rel}/{name}\n".encode())
+            with open(p, "rb") as f:
+                h.update(hashlib.sha256(f.read()).digest())
+    return h.hexdigest()
+
+
+def env_for(home, **extra):
+    env = dict(os.environ)
+    env.update(HOME=home, QT_QPA_PLATFORM="offscreen", LANG="C.UTF-8", LC_ALL="C.UTF-8")
+    env.update(extra)
+    return env
+
+
+def processes_of_home(home):
+    """Pids of processes whose environment holds HOME=home: the clients this run started."""
+    needle = f"HOME={home}".encode()
+    pids = []
+    for name in os.listdir("/proc"):
+        if not name.isdigit() or int(name) == os.getpid():
+            continue
+        try:
+            with open(f"/proc/{name}/environ", "rb") as f:
+                if needle in f.read().split(b"\0"):
+                    pids.append(int(name))
+        except OSError:
+            pass
+    return pids
+
+
+def kill_processes_of_home(home):
+    for pid in processes_of_home(home):
+        try:
+            os.kill(pid, signal.SIGKILL)
+        except ProcessLookupError:
+            pass
+    deadline = time.time() + 5
+    while processes_of_home(home) and time.time() < deadline:
+        time.sleep(0.05)
+
+
+def new_home(parent, name="home"):
+    home = tempfile.mkdtemp(prefix=name + "-", dir=parent)
+    return home
