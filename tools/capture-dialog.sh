@@ -12,7 +12,7 @@ launcher="$1" out="$2" what="${3:-window}"
 QT_QPA_PLATFORM=xcb "$launcher" >/dev/null &
 pid=$!
 wid=""
-for _ in $(seq 1 200); do  # up to 20 s for the dialog to be mapped
+for _ in $(seq 1 600); do  # up to 60 s for the dialog to be mapped (busy machines)
   wid=$(xwininfo -root -tree 2>/dev/null |
         awk '/"Skelda Backup"/ && /skelda-launcher/ {print $1; exit}')
   if [ -n "$wid" ] && xwininfo -id "$wid" 2>/dev/null | grep -q 'IsViewable'; then break; fi

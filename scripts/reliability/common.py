@@ -100,3 +100,15 @@ def kill_processes_of_home(home):
 def new_home(parent, name="home"):
     home = tempfile.mkdtemp(prefix=name + "-", dir=parent)
     return home
+
+
+def end_first_client(home):
+    """Ends the client that a first installation started, and drops its pid file. The
+    client starts detached and writes that file itself: wait for it first, so that no late
+    client writes it again."""
+    pid_file = os.path.join(home, ".SkeldaBackup", "ui.pid")
+    deadline = time.time() + 30
+    while not os.path.exists(pid_file) and time.time() < deadline:
+        time.sleep(0.05)
+    kill_processes_of_home(home)
+    os.remove(pid_file)

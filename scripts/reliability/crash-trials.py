@@ -146,9 +146,8 @@ def main():
         os.makedirs(template)
         subprocess.run([old_launcher], env=common.env_for(template), check=True,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=120)
-        common.kill_processes_of_home(template)
+        common.end_first_client(template)
         user = os.path.join(template, ".SkeldaBackup")
-        os.remove(os.path.join(user, "ui.pid"))
         shutil.rmtree(os.path.join(user, "log"))
         old = common.tree_digest(os.path.join(user, "Skelda.app"))
         reference = os.path.join(work, "reference")

@@ -43,8 +43,7 @@ class Case:
     def install_old(self):
         launcher = common.make_bundle(self.launcher_bin, self.old_tree, OLD, f"{self.work}/Old.app")
         self.run(launcher)
-        common.kill_processes_of_home(self.home)
-        os.remove(os.path.join(self.user, "ui.pid"))
+        common.end_first_client(self.home)
         return common.tree_digest(self.app)
 
     def bundle(self, version=NEW, package=None):
