@@ -266,9 +266,11 @@ TEST_F(E2ETest, FrenchAndJapaneseShowTheirOwnTranslations) {
     for (const std::string lang : {"C", "fi_FI", "fr_FR", "ja_JP"}) {
         WriteFile(app() + "/Contents/Resources/INFO", "[Version]\nbuild_version=100\n");
         const pid_t own = StartStubbornClient();  // holds the dialog up
-        EXPECT_EQ(Sh("LC_ALL=" + lang + ".UTF-8 xvfb-run -a -s '-screen 0 800x600x24' " + Tools() +
-                     "/capture-dialog.sh " + exe + " " + path(lang) + ".ppm >/dev/null 2>&1"),
-                  0);
+        const std::string capture = "LC_ALL=" + lang + ".UTF-8 xvfb-run -a -s '-screen 0 " +
+                                    "800x600x24' " + Tools() + "/capture-dialog.sh " + exe +
+                                    " " + path(lang) + ".ppm >/dev/null 2>&1";
+        // xvfb-run -a can lose the race for a display number to a server still going down.
+        EXPECT_TRUE(Sh(capture) == 0 || Sh(capture) == 0) << lang;
         EXPECT_EQ(Wait(own), -SIGKILL);
         StopClients();
         shot[lang] = ReadFile(path(lang) + ".ppm");
