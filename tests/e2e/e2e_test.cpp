@@ -154,37 +154,6 @@ TEST_F(E2ETest, FirstInstallationThenNoUpgradeWhileTheClientRuns) {
     EXPECT_NE(WaitClient(first), 0) << "the client was not started again";
 }
 
-TEST_F(E2ETest, DamagedPackageIsRolledBack) {
-    InstallOld();
-    const std::string pkg = MakeBundle("New", "1.0.200") + "/Contents/Resources/package/skelda.vpk";
-    ASSERT_EQ(truncate(pkg.c_str(), std::filesystem::file_size(pkg) / 2), 0);
-    EXPECT_EQ(Run(path("New.app")), 0) << "a failed upgrade does not change the exit status";
-    EXPECT_EQ(Count({"[ERROR] Failed to extract package, rollback to old installation",
-                     "[ERROR] Failed to upgrade package", "[DEBUG] done"}),
-              1)
-        << Log();
-    EXPECT_TRUE(Installed("100"));
-    EXPECT_FALSE(Exists(app() + "_tmp"));
-    EXPECT_NE(WaitClient(0), 0) << "the old client was not started";
-}
-
-TEST_F(E2ETest, AllTenBackupNamesBlockedLeaveTheOldApplication) {
-    InstallOld();
-    std::vector<std::string> expected;
-    for (int n = 0; n <= 9; ++n) {
-        const std::string backup = app() + "_tmp" + (n ? std::to_string(n) : "");
-        MakeDirs(backup + "/leftover");
-        expected.push_back("[ERROR] failed to backup app from '" + app() + "' -> '" + backup + "'");
-    }
-    expected.push_back(expected.back() + " at max retries, exiting");
-    expected.push_back("[ERROR] Failed to upgrade package");
-    EXPECT_EQ(Run(MakeBundle("New", "1.0.200")), 0);
-    EXPECT_EQ(Count(expected), 1) << Log();
-    EXPECT_TRUE(Installed("100"));
-    EXPECT_TRUE(Exists(app() + "_tmp5/leftover")) << "leftovers are not touched";
-    EXPECT_NE(WaitClient(0), 0);
-}
-
 TEST_F(E2ETest, LogFolderInTheWayStillUpgradesAndLaunches) {
     MakeDirs(user());
     WriteFile(user() + "/log", "in the way");
@@ -222,10 +191,8 @@ protected:
 TEST_F(BusyTest, UpgradeKillsTheStubbornClientAndRefusesASecondInstance) {
     const auto start = std::chrono::steady_clock::now();
     const pid_t holder = StartHolder();
-    const auto second = std::chrono::steady_clock::now();
     std::string out;
     EXPECT_EQ(Run(upgrade, &out), 0);
-    EXPECT_LT(Since(second), 4.0) << "the refused instance waited for something";
     EXPECT_EQ(out, "lib path = '" + upgrade + "/Contents/Frameworks/plugins'\n");
     EXPECT_EQ(Count({kRefused}), 1) << Log();
 

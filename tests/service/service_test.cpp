@@ -5,9 +5,7 @@
 
 #include <QCoreApplication>
 
-#include <sched.h>
 #include <signal.h>
-#include <sys/mount.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -320,30 +318,6 @@ TEST_F(ServiceTransaction, DamagedPackageRollsBackToTheByteIdenticalOldApplicati
     EXPECT_FALSE(Exists(backup(0)));
     EXPECT_EQ(DriverLog("ERROR"),
               Lines{"[ERROR] Failed to extract package, rollback to old installation"});
-}
-
-// USER on a 1 MiB tmpfs, mounted in a private mount namespace of a forked child: the 4 MiB
-// package does not fit, and the old application must come back whole.
-TEST_F(ServiceTransaction, FullDiskRollsBackToTheOldApplication) {
-    Put(path("new/Contents/Resources/big.bin"), std::string(4 << 20, 'x'));
-    Put(package(), Tar(path("new"), "z"));
-    MakeApp(path("old"), "100", true);
-    MakeDirs(user());
-    const pid_t child = fork();
-    if (child == 0) {
-        if (unshare(CLONE_NEWNS) != 0 ||
-            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-            mount("tmpfs", user().c_str(), "tmpfs", 0, "size=1m") != 0)
-            _exit(77);
-        fs::copy(path("old"), app(), fs::copy_options::recursive);
-        _exit(RunDriver("upgrade") == "need=1\nrc=-1\n" && SameTree(path("old"), app()) &&
-                      !Exists(backup(0)) ? 0 : 1);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    if (WIFEXITED(status) && WEXITSTATUS(status) == 77)
-        GTEST_SKIP() << "mounting a tmpfs in a private mount namespace is not allowed here";
-    EXPECT_EQ(status, 0) << "no rollback to the old application";
 }
 
 #else  // SKELDA_TIMED_STOP

@@ -28,7 +28,7 @@ int main(int argc, char* argv[]) {
                                                QStringLiteral("/../../Frameworks/plugins"));
     QCoreApplication::setLibraryPaths(QStringList(plugin_dir));
     printf("lib path = '%s'\n", plugin_dir.toUtf8().constData());
-    // The client is started by fork and exec; nothing buffered may be left to duplicate.
+    // Out before the client, which shares this output, can write anything.
     fflush(stdout);
 
     SingleApplication app(argc, argv, true);

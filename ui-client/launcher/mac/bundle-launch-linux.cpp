@@ -1,9 +1,13 @@
 #include "mac/bundle-launch.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QProcess>
-#include <QStringList>
+
+#include <signal.h>
+#include <spawn.h>
+
+extern char** environ;
 
 // Linux keeps no database of application bundles, so there is nothing to unregister. The
 // result still follows the macOS tool: success for an existing bundle, failure when the
@@ -13,8 +17,32 @@ int UnregisterBundle(const QString& app_path) {
 }
 
 // Without Launch Services the bundle is opened by starting its client executable directly,
-// detached, in the user's home folder (where a launched application starts on macOS too).
+// in its own session and in the user's home folder (where a launched application starts on
+// macOS too), without waiting for it. posix_spawn rather than fork: this runs on the worker
+// thread while the main thread is busy, and a forked child of a threaded process must not
+// allocate, which QProcess::startDetached does (it hung under AddressSanitizer). glibc's
+// posix_spawn reports a failed exec as its result.
 bool OpenBundle(const QString& app_path) {
-    const QString client = app_path + QStringLiteral("/Contents/MacOS/skelda-backup-ui");
-    return QProcess::startDetached(client, QStringList(), QDir::homePath());
+    const QByteArray client =
+        QFile::encodeName(app_path + QStringLiteral("/Contents/MacOS/skelda-backup-ui"));
+    const QByteArray home = QFile::encodeName(QDir::homePath());
+    char* const argv[] = {const_cast<char*>(client.constData()), nullptr};
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_addchdir_np(&actions, home.constData());
+    posix_spawnattr_t attr;
+    posix_spawnattr_init(&attr);
+    sigset_t sigs;
+    sigemptyset(&sigs);
+    posix_spawnattr_setsigmask(&attr, &sigs);
+    sigfillset(&sigs);
+    posix_spawnattr_setsigdefault(&attr, &sigs);
+    posix_spawnattr_setflags(&attr, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK |
+                                        POSIX_SPAWN_SETSIGDEF);
+    pid_t pid = 0;
+    const int rc = posix_spawn(&pid, client.constData(), &actions, &attr, argv, environ);
+    posix_spawnattr_destroy(&attr);
+    posix_spawn_file_actions_destroy(&actions);
+    return rc == 0;
 }
