@@ -20,8 +20,9 @@ scripts/install-deps.sh
 
 # Set before the build too: building runs each test binary once to list its cases.
 export QT_QPA_PLATFORM=offscreen
-# Full stacks for allocations, so that the leak suppressions can name Qt's plug-ins.
-export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1:fast_unwind_on_malloc=0${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
+# The default fast unwinding of allocation stacks: the slow one made the 100,000-file upgrade
+# seven times slower (144 s, not 20 s), and the leak suppressions match either way.
+export ASAN_OPTIONS="detect_leaks=1:abort_on_error=1${ASAN_OPTIONS:+:$ASAN_OPTIONS}"
 export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp${LSAN_OPTIONS:+:$LSAN_OPTIONS}"
 export UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1${UBSAN_OPTIONS:+:$UBSAN_OPTIONS}"
 export TSAN_OPTIONS="halt_on_error=1:suppressions=$PWD/tests/tsan.supp${TSAN_OPTIONS:+:$TSAN_OPTIONS}"
