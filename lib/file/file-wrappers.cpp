@@ -26,6 +26,17 @@ bool AccessDenied(const ustring& path, int mode) {
     return access(path.c_str(), mode) != 0 && (errno == EACCES || errno == EPERM);
 }
 
+// The file-system type name of path, empty (and logged for the caller `who`) when unknown.
+std::string TypeName(const ustring& path, const char* who) {
+    std::string type;
+    if (FileSystemTypeName(path.c_str(), type) != 0) {
+        SKLOG(ERROR, kComponent, "%s: Failed to get file system info '%s'. %s\n", who,
+              path.c_str(), strerror(errno));
+        type.clear();
+    }
+    return type;
+}
+
 }  // namespace
 
 bool FSTimeEqual(long a, long b) {
@@ -87,23 +98,12 @@ bool hasFilePermission(const ustring& path, int mode) {
 }
 
 bool isMountPoint(const ustring& path) {
-    std::string type;
-    if (FileSystemTypeName(path.c_str(), type) != 0) {
-        SKLOG(ERROR, kComponent, "isMountPoint: Failed to get file system info '%s'. %s\n",
-              path.c_str(), strerror(errno));
-        return false;
-    }
+    const std::string type = TypeName(path, "isMountPoint");
     return type == "nfs" || type == "smbfs" || type == "afpfs";
 }
 
 bool IsMSDOS(const ustring& path) {
-    std::string type;
-    if (FileSystemTypeName(path.c_str(), type) != 0) {
-        SKLOG(ERROR, kComponent, "IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
-              path.c_str(), strerror(errno));
-        return false;
-    }
-    if (type != "msdos")
+    if (TypeName(path, "IsSupportLargeFile") != "msdos")
         return false;
     SKLOG(WARNING, kComponent, "Detect a MSDOS platform for path '%s'.\n", path.c_str());
     return true;
