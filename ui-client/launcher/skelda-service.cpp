@@ -1,3 +1,7 @@
+// The upgrade service: installation paths, version files and the upgrade transaction.
+// Backup and rollback are renames to sibling names inside the per-user installation, so they
+// cost the same for any size of application and never copy anything.
+
 #include "skelda-service.h"
 
 #include <QCoreApplication>
@@ -6,16 +10,19 @@
 #include <QString>
 #include <QVariant>
 
-#include <cctype>
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <limits>
 
+#include "extractor.h"
 #include "file/file-op.h"
 #include "log/log.h"
 
 namespace {
 
 const char kComponent[] = "service_debug";
+const int kBackupAttempts = 10;  // APP_tmp, APP_tmp1 ... APP_tmp9
 
 ustring FromQString(const QString& text) {
     return ustring(text.toUtf8().constData());
@@ -40,6 +47,19 @@ void ReadVersionFile(const ustring& path, VerInfo& info) {
         if (settings.contains(key))
             *f.field = FromQString(settings.value(key, QVariant()).toString());
     }
+}
+
+// Backup folder name for an attempt: app_path + "_tmp" for 0, then "_tmp1" ... "_tmp9".
+ustring GetAppBackupDir(const ustring& app_path, int attempt) {
+    ustring base = app_path + "_tmp";
+    if (attempt == 0)
+        return base;
+    char postfix[8];
+    if (std::snprintf(postfix, sizeof postfix, "%d", attempt) < 0) {
+        SKLOG(ERROR, kComponent, "snprintf failed (continuing without postfix)");
+        postfix[0] = '\0';
+    }
+    return base + postfix;
 }
 
 }  // namespace
@@ -75,37 +95,10 @@ ustring Service::GetUserSkeldaDataInstallPath() {
     return GetUserSkeldaInstallPath() + "/" + "data";
 }
 
-ustring GetAppBackupDir(const ustring& app_path, int attempt) {
-    ustring base = app_path + "_tmp";
-    if (attempt == 0)
-        return base;
-    char postfix[8];
-    if (std::snprintf(postfix, sizeof postfix, "%d", attempt) < 0) {
-        SKLOG(ERROR, kComponent, "snprintf failed (continuing without postfix)");
-        postfix[0] = '\0';
-    }
-    return base + postfix;
-}
-
-int32_t BuildNumberFromText(const ustring& text) {
-    const char* p = text.c_str();
-    while (std::isspace(static_cast<unsigned char>(*p)))
-        ++p;
-    const bool negative = *p == '-';
-    if (*p == '-' || *p == '+')
-        ++p;
-    // Accumulate towards the sign's own limit so that INT32_MIN itself stays exact.
-    const int64_t limit = negative ? -static_cast<int64_t>(std::numeric_limits<int32_t>::min())
-                                   : std::numeric_limits<int32_t>::max();
-    int64_t magnitude = 0;
-    for (; *p >= '0' && *p <= '9'; ++p) {
-        magnitude = magnitude * 10 + (*p - '0');
-        if (magnitude >= limit) {
-            magnitude = limit;
-            break;
-        }
-    }
-    return static_cast<int32_t>(negative ? -magnitude : magnitude);
+int32_t LeadingNumber(const ustring& text) {
+    const long long value = std::strtoll(text.c_str(), nullptr, 10);
+    return static_cast<int32_t>(std::clamp<long long>(value, std::numeric_limits<int32_t>::min(),
+                                                      std::numeric_limits<int32_t>::max()));
 }
 
 void Service::LoadTargetVersion() {
@@ -126,4 +119,109 @@ void Service::LoadSourceVersion() {
     SKLOG(INFO, kComponent, "source_version = (%s, %s, %s, %s)\n",
           source_version.major_version.c_str(), source_version.minor_version.c_str(),
           source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
+}
+
+int Service::PrepareUserEnv() {
+    const ustring app = user_app_path;
+    ustring backup;
+    int n = 0;
+
+    if (IsFileExist(app, false)) {
+        for (n = 0; n < kBackupAttempts; ++n) {
+            backup = GetAppBackupDir(app, n);
+            if (FSRename(app, backup, false) == 0)
+                break;
+            SKLOG(ERROR, kComponent, "failed to backup app from '%s' -> '%s'\n", app.c_str(),
+                  backup.c_str());
+        }
+        if (n == kBackupAttempts) {
+            SKLOG(ERROR, kComponent,
+                  "failed to backup app from '%s' -> '%s' at max retries, exiting\n",
+                  app.c_str(), backup.c_str());
+            return -1;
+        }
+    }
+
+    if (ExtractPackage() != 0) {
+        if (backup.empty()) {
+            SKLOG(ERROR, kComponent,
+                  "Failed to extract package, and no old installation to rollback\n");
+            return -1;
+        }
+        SKLOG(ERROR, kComponent, "Failed to extract package, rollback to old installation\n");
+        FSRemove(app, false);
+        FSRename(backup, app, false);
+        return -1;
+    }
+
+    SKLOG(INFO, kComponent, "user installation is ready, removing backup app\n");
+    // Also removes the leftovers that blocked the earlier attempts.
+    for (int j = 0; j <= n; ++j)
+        FSRemove(GetAppBackupDir(app, j), false);
+    return 0;
+}
+
+int Service::ExtractPackage() {
+    const ustring package = GetRootSkeldaResourceInstallPath() + "/package/skelda.vpk";
+    const ustring destination = GetUserSkeldaAppInstallPath();
+    if (FSMKDir(destination, true) < 0) {
+        SKLOG(ERROR, kComponent, "failed to create folder: '%s'\n", destination.c_str());
+        return -1;
+    }
+    SKLOG(INFO, kComponent, "extract package: '%s' -> '%s'\n", package.c_str(),
+          destination.c_str());
+    Extractor extractor;
+    extractor.archive_path = package;
+    extractor.dest_dir = destination;
+    return extractor.Extract();
+}
+
+void Service::RemoveAgedFolders() {
+    const ustring path = GetUserSkeldaInstallPath() + "/app";
+    SKLOG(INFO, kComponent, "removing aged app folder %s\n", path.c_str());
+    FSRemove(path, false);
+}
+
+int Service::FSCopyPath(const ustring& src, const ustring& dst) {
+    SKLOG(DEBUG, kComponent, "copy from '%s' to '%s'\n", src.c_str(), dst.c_str());
+    _FILE_INFO_tag info;
+    if (FSStat(src, info, false) < 0) {
+        SKLOG(ERROR, kComponent, "FSCopyPath: failed to stat source '%s'\n", src.c_str());
+        return -1;
+    }
+    if (!info.exists) {
+        SKLOG(ERROR, kComponent, "FSCopyPath: source path '%s' does not exist\n", src.c_str());
+        return -1;
+    }
+    if (info.type != FT_DIR)
+        return FSCopy(src, dst, false) < 0 ? -1 : 0;
+
+    if (FSMKDir(dst, true) < 0) {
+        SKLOG(ERROR, kComponent, "FSCopyPath: failed to create dest folder '%s'\n", dst.c_str());
+        return -1;
+    }
+    DIR_HANDLE handle;
+    if (FSOpenDir(src, 0, handle) < 0) {
+        // The folder counts as copied: dst stays as an empty folder.
+        SKLOG(WARNING, kComponent, "FSCopyPath: failed to create handle  for src '%s' failed\n",
+              src.c_str());
+        return 0;
+    }
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) > 0) {
+        if (entry.name == ".." || entry.name == ".")
+            continue;
+        const ustring child_src = src + "/" + entry.name;
+        const ustring child_dst = dst + "/" + entry.name;
+        const int rc = entry.type == FT_DIR ? FSCopyPath(child_src, child_dst)
+                                            : FSCopy(child_src, child_dst, false);
+        if (rc < 0) {
+            SKLOG(ERROR, kComponent, "FSCopyPath: failed to copy from '%s' to '%s'\n",
+                  child_src.c_str(), child_dst.c_str());
+            FSCloseDir(handle);
+            return -1;
+        }
+    }
+    FSCloseDir(handle);
+    return 0;
 }

@@ -71,11 +71,8 @@ public:
     VerInfo source_version;
 };
 
-// Backup folder name for an attempt: app_path + "_tmp" for 0, then "_tmp1" ... "_tmp9".
-ustring GetAppBackupDir(const ustring& app_path, int attempt);
-
-// A build number as atoi reads it (leading whitespace, optional sign, digits up to the first
-// other character; no digits give 0), except that text beyond the 32-bit range saturates at
-// INT32_MAX or INT32_MIN instead of being undefined: an absurdly large build still compares
-// as newer than every real one, and a huge installed build is never downgraded.
-int32_t BuildNumberFromText(const ustring& text);
+// The leading decimal number of text as atol reads it (leading blanks, an optional sign,
+// digits up to the first other character; no digits give 0), saturated to the 32-bit range:
+// an absurdly large build still compares as newer than every real one, a huge installed build
+// is never downgraded, and a pid beyond the range names no process.
+int32_t LeadingNumber(const ustring& text);

@@ -7,13 +7,13 @@
 
 #include <cerrno>
 #include <csignal>
-#include <cstdlib>
 #include <cstring>
 
 #include "config/config.h"
 #include "file/file-op.h"
 #include "log/log.h"
 #include "mac/bundle-launch.h"
+#include "mac/process-start.h"
 
 #undef SKLOG_SOURCE_NAME
 #define SKLOG_SOURCE_NAME "mac/mac-service.cpp"
@@ -23,14 +23,29 @@ namespace {
 const char kComponent[] = "service_debug";
 const int kStopProbes = 5;
 
-// The pid in text as a process id, or 0 when it is not a positive number that fits pid_t.
-// atol would turn "4294967295" into a pid_t of -1, which kill() reads as "every process".
-pid_t PositivePid(const ustring& text) {
-    errno = 0;
-    const long value = std::strtol(text.c_str(), nullptr, 10);
-    if (errno == ERANGE || value <= 0 || static_cast<long>(static_cast<pid_t>(value)) != value)
-        return 0;
-    return static_cast<pid_t>(value);
+// Whether process pid can have written the pid file at path: it runs and started no later
+// than the file was last written. A pid file outlives its client (a crash, a power cut, a
+// restart), and its number may since have gone to another program, which must never be
+// signalled: a program that started after the file was written cannot have written it.
+bool WrotePidFile(pid_t pid, const ustring& path) {
+    timespec start, written;
+    if (!ProcessStartTime(pid, &start) || !FileModifiedTime(path.c_str(), &written))
+        return false;
+    if (start.tv_sec > written.tv_sec ||
+        (start.tv_sec == written.tv_sec && start.tv_nsec > written.tv_nsec)) {
+        SKLOG(NOTE, kComponent, "process %d started after '%s' was written: not the client\n",
+              static_cast<int>(pid), path.c_str());
+        return false;
+    }
+    return true;
+}
+
+// The positive pid of the config's "pid" key whose process wrote the file at path, else 0.
+// 0 and negative ids would address whole process groups, the launcher's own among them.
+pid_t ClientPid(const Config& config, const ustring& path) {
+    const auto it = config.find("pid");
+    const pid_t pid = it == config.end() ? 0 : LeadingNumber(it->second);
+    return pid > 0 && WrotePidFile(pid, path) ? pid : 0;
 }
 
 }  // namespace
@@ -64,10 +79,10 @@ bool MacService::PerUserBinPathExist() {
 bool MacService::IsNeedUpgrade() {
     const int32_t s = source_version.build_version.empty()
                           ? 0
-                          : BuildNumberFromText(source_version.build_version);
+                          : LeadingNumber(source_version.build_version);
     const int32_t t = target_version.build_version.empty()
                           ? 0
-                          : BuildNumberFromText(target_version.build_version);
+                          : LeadingNumber(target_version.build_version);
     SKLOG(DEBUG, kComponent, "source version = %d, target version = %d\n", s, t);
     const bool bin_exists = PerUserBinPathExist();
     return !bin_exists || t > s;
@@ -101,9 +116,10 @@ void MacService::StopService() {
         SKLOG(NOTE, kComponent, "Failed to read pid file '%s', not exist ?\n", path.c_str());
         return;
     }
-    // A missing or empty value, 0, a negative number and text all mean "nothing to stop".
-    const pid_t pid = PositivePid(config["pid"]);
-    if (pid <= 0)
+    // A missing or empty value, 0, a negative number, text, and a process that did not write
+    // the file all mean "nothing to stop".
+    const pid_t pid = ClientPid(config, path);
+    if (pid == 0)
         return;
 
     if (kill(pid, SIGTERM) != 0) {
@@ -127,6 +143,11 @@ int MacService::LaunchPerUserBin() {
     if (UnregisterBundle(app) != 0)
         SKLOG(ERROR, kComponent, "Cannot unregister bundle, %s", app.toUtf8().constData());
     return OpenBundle(app) ? 0 : -1;
+}
+
+pid_t RunningClient(const ustring& pid_file) {
+    Config config;
+    return config.read(pid_file) < 0 ? 0 : ClientPid(config, pid_file);
 }
 
 void MacService::PostUpgrade() {

@@ -1,0 +1,62 @@
+#include "mac/process-start.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+// The boot time in whole seconds since 1970 ("btime" of /proc/stat), rounded down.
+bool BootTime(long long* seconds) {
+    FILE* f = std::fopen("/proc/stat", "re");
+    if (!f)
+        return false;
+    char line[256];
+    bool found = false;
+    while (!found && std::fgets(line, sizeof line, f))
+        found = std::sscanf(line, "btime %lld", seconds) == 1;
+    std::fclose(f);
+    return found;
+}
+
+}  // namespace
+
+// /proc/PID/stat gives the start in clock ticks after boot. Both that count and the boot time
+// are rounded down, so the result is never later than the true start.
+bool ProcessStartTime(pid_t pid, timespec* start) {
+    char path[32];
+    std::snprintf(path, sizeof path, "/proc/%d/stat", static_cast<int>(pid));
+    FILE* f = std::fopen(path, "re");
+    if (!f)
+        return false;
+    char stat[1024];
+    const size_t n = std::fread(stat, 1, sizeof stat - 1, f);
+    std::fclose(f);
+    stat[n] = '\0';
+    // The command name stands in parentheses and may hold blanks and ')': the fields go on
+    // after the last ')', with the state (field 3) first and the start time as field 22.
+    const char* rest = std::strrchr(stat, ')');
+    char state = 0;
+    unsigned long long ticks = 0;
+    long long boot = 0;
+    if (!rest ||
+        std::sscanf(rest + 1, " %c %*d %*d %*d %*d %*d %*u %*u %*u %*u %*u %*u %*u %*d %*d %*d "
+                              "%*d %*d %*d %llu",
+                    &state, &ticks) != 2 ||
+        state == 'Z' || state == 'X' || !BootTime(&boot))
+        return false;
+    const long long hz = sysconf(_SC_CLK_TCK);
+    start->tv_sec = static_cast<time_t>(boot + static_cast<long long>(ticks / hz));
+    start->tv_nsec = static_cast<long>((ticks % hz) * (1000000000LL / hz));
+    return true;
+}
+
+bool FileModifiedTime(const char* path, timespec* mtime) {
+    struct stat st;
+    if (stat(path, &st) != 0)
+        return false;
+    *mtime = st.st_mtim;
+    return true;
+}
