@@ -7,6 +7,8 @@
 #include <signal.h>
 #include <spawn.h>
 
+#include "mac/mac-service.h"
+
 extern char** environ;
 
 // Linux keeps no database of application bundles, so there is nothing to unregister. The
@@ -18,11 +20,16 @@ int UnregisterBundle(const QString& app_path) {
 
 // Without Launch Services the bundle is opened by starting its client executable directly,
 // in its own session and in the user's home folder (where a launched application starts on
-// macOS too), without waiting for it. posix_spawn rather than fork: this runs on the worker
+// macOS too), without waiting for it. Opening an application that already runs only brings
+// it forward on macOS, so a client that still runs (the one that wrote the pid file beside
+// the bundle) counts as opened and no second copy is started. posix_spawn rather than fork: this runs on the worker
 // thread while the main thread is busy, and a forked child of a threaded process must not
 // allocate, which QProcess::startDetached does (it hung under AddressSanitizer). glibc's
 // posix_spawn reports a failed exec as its result.
 bool OpenBundle(const QString& app_path) {
+    const QByteArray pid_file = QFile::encodeName(QFileInfo(app_path).path() + "/ui.pid");
+    if (RunningClient(pid_file.constData()) > 0)
+        return true;
     const QByteArray client =
         QFile::encodeName(app_path + QStringLiteral("/Contents/MacOS/skelda-backup-ui"));
     const QByteArray home = QFile::encodeName(QDir::homePath());

@@ -9,6 +9,6 @@
 // the registration tool: 0 for success, non-zero (negative when it could not run) otherwise.
 int UnregisterBundle(const QString& app_path);
 
-// Starts the application of the bundle at app_path without waiting for it.
-// Returns true when it was started.
+// Starts the application of the bundle at app_path without waiting for it, unless it already
+// runs. Returns true when it was started or already ran.
 bool OpenBundle(const QString& app_path);
