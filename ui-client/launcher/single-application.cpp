@@ -2,37 +2,43 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QFileInfo>
+
+#include "mac/private-folder.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
 
 namespace {
 
-// The per-user runtime folder when the session has one, else the shared temporary folder
-// (the uid in the file name keeps users apart there).
-QString LockFolder() {
-    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (!runtime.isEmpty() && QFileInfo(runtime).isDir())
-        return runtime;
-    return QStringLiteral("/tmp");
+// A real folder (not a link) of this user's, which no one else may enter or write.
+bool IsPrivateFolder(const QByteArray& folder) {
+    struct stat st;
+    return !folder.isEmpty() && lstat(folder.constData(), &st) == 0 && S_ISDIR(st.st_mode) &&
+           st.st_uid == getuid() && (st.st_mode & 077) == 0;
 }
 
-QString LockFilePath() {
+QByteArray LockFileName() {
     const QByteArray exe = QDir::cleanPath(QCoreApplication::applicationFilePath()).toUtf8();
-    const QByteArray hash = QCryptographicHash::hash(exe, QCryptographicHash::Sha1).toHex();
-    return LockFolder() + QStringLiteral("/skelda-launcher-%1-%2.lock")
-                              .arg(getuid())
-                              .arg(QString::fromLatin1(hash.left(16)));
+    return "/launcher-" + QCryptographicHash::hash(exe, QCryptographicHash::Sha1).toHex().left(16) +
+           ".lock";
 }
 
 }  // namespace
 
 SingleApplication::SingleApplication(int& argc, char** argv, bool /*gui*/)
     : QApplication(argc, argv) {
-    const QByteArray path = QFile::encodeName(LockFilePath());
+    const QByteArray folder = UserPrivateFolder();
+    if (!IsPrivateFolder(folder)) {
+        // Someone else's folder, or one open to others: a lock there could be held against
+        // us. Running twice is better than never running.
+        qWarning("single instance: '%s' is not private to this user, no lock taken",
+                 folder.constData());
+        return;
+    }
+    const QByteArray path = folder + LockFileName();
     // Close-on-exec: the client that the launcher starts must not inherit the lock, or it
     // would keep the launcher "running" for as long as the client lives.
     lock_fd_ = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);

@@ -2,12 +2,14 @@
 // The launcher's application object: a QApplication that also knows whether another
 // launcher already runs for the same user and the same executable.
 //
-// The identity is a lock file named from the user id and a hash of the absolute path of
-// the running executable, in the user's runtime folder (XDG_RUNTIME_DIR, else /tmp). The
-// first instance holds an exclusive flock() on it for the life of the process. The kernel
-// drops the lock when the process ends in any way, a crash or SIGKILL included, so no
-// stale state survives, and taking the lock is atomic, so launchers started together
-// cannot both win. A copy of the launcher at another path has a lock of its own.
+// The identity is a lock file named from a hash of the absolute path of the running
+// executable, in a folder of the user's own (mac/private-folder.h) that is checked to be a
+// real folder owned by the user and closed to everyone else, so nothing another account
+// creates or holds can refuse a run. The first instance holds an exclusive flock() on it for
+// the life of the process. The kernel drops the lock when the process ends in any way, a
+// crash or SIGKILL included, so no stale state survives, and taking the lock is atomic, so
+// launchers started together cannot both win. A copy of the launcher at another path has a
+// lock of its own.
 
 #include <QApplication>
 
