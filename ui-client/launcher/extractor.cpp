@@ -2,7 +2,9 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <locale.h>
 
+#include <clocale>
 #include <cstdio>
 #include <memory>
 
@@ -36,6 +38,38 @@ struct WriteFree {
 };
 using Reader = std::unique_ptr<archive, ReadFree>;
 using Writer = std::unique_ptr<archive, WriteFree>;
+
+// Package entry names are UTF-8, and libarchive converts them to the character set of the
+// current locale, failing for a name such as "Préférences.strings" under "C" or without any
+// LANG. While one of these lives, this thread's character set is UTF-8 (everything else of
+// the locale stays), so the names land on disk byte for byte under every locale.
+class Utf8Names {
+public:
+    Utf8Names() {
+        const locale_t base = duplocale(uselocale(static_cast<locale_t>(nullptr)));
+        if (base == static_cast<locale_t>(nullptr))
+            return;
+        utf8_ = newlocale(LC_CTYPE_MASK, "C.UTF-8", base);
+        if (utf8_ == static_cast<locale_t>(nullptr))
+            utf8_ = newlocale(LC_CTYPE_MASK, "UTF-8", base);  // macOS spells it so
+        if (utf8_ == static_cast<locale_t>(nullptr))
+            freelocale(base);  // not taken over: keep the locale as it is
+        else
+            saved_ = uselocale(utf8_);
+    }
+    ~Utf8Names() {
+        if (utf8_ != static_cast<locale_t>(nullptr)) {
+            uselocale(saved_);
+            freelocale(utf8_);
+        }
+    }
+    Utf8Names(const Utf8Names&) = delete;
+    Utf8Names& operator=(const Utf8Names&) = delete;
+
+private:
+    locale_t utf8_ = static_cast<locale_t>(nullptr);
+    locale_t saved_ = static_cast<locale_t>(nullptr);
+};
 
 const char* ErrorText(archive* a) {
     const char* text = archive_error_string(a);
@@ -77,6 +111,7 @@ Reader OpenHeaderPass(const ustring& dest_dir, const ustring& archive_path) {
 }  // namespace
 
 int Extractor::Count() {
+    const Utf8Names names;
     Reader reader = OpenHeaderPass(dest_dir, archive_path);
     if (!reader)
         return -1;
@@ -91,6 +126,7 @@ int Extractor::Count() {
 }
 
 int Extractor::List() {
+    const Utf8Names names;
     Reader reader = OpenHeaderPass(dest_dir, archive_path);
     if (!reader)
         return -1;
@@ -113,6 +149,7 @@ int Extractor::Extract() {
     SKLOG(DEBUG, kComponent, "decompress from '%s' to '%s'\n", archive_path.c_str_utf8(),
           dest_dir.c_str_utf8());
     Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingStrId));
+    const Utf8Names names;
 
     // An empty archive fails here too, so an empty package never replaces an installation.
     const int total = Count();
