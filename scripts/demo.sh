@@ -14,7 +14,7 @@ launcher=$(scripts/build-launcher.sh)
 work=$(mktemp -d)
 export HOME="$work/home"
 mkdir -p "$HOME"
-export XDG_RUNTIME_DIR="$work/runtime"  # Qt wants one; the single-instance lock lives there
+export XDG_RUNTIME_DIR="$work/runtime"  # Qt warns without one
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 user="$HOME/.SkeldaBackup"
 clients=()
