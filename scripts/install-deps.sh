@@ -11,6 +11,9 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev
   xvfb xauth imagemagick x11-utils
+  # The dialog's fonts: a stand-in for Arial with the same metrics, and one font for
+  # Chinese (simplified and traditional), Japanese and Korean.
+  fonts-liberation fonts-wqy-microhei
   procps util-linux hyperfine time python3
 )
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Takes the pictures of the progress dialog kept in docs/: docs/dialog-enu.png (English)
-# and docs/dialog-fre.png (French). Each is an upgrade run on a virtual X screen (Xvfb)
-# against a throw-away HOME, held on screen by a running client that ignores SIGTERM, so
-# that the launcher spends its five seconds stopping it while the dialog is shown.
+# Takes the pictures of the progress dialog kept in docs/: docs/dialog-enu.png (English),
+# docs/dialog-fre.png (French) and docs/dialog-jpn.png (Japanese). Each is an upgrade run
+# on a virtual X screen (Xvfb) against a throw-away HOME, held on screen by a running client
+# that ignores SIGTERM, so that the launcher spends its five seconds stopping it while the
+# dialog is shown.
 #   scripts/screenshot.sh      (SKELDA_BUILD_DIR picks another build folder than build/)
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -32,7 +33,7 @@ tools/make-bundle.sh --launcher "$launcher" --client "$client" --version 1.0.100
 tools/make-bundle.sh --launcher "$launcher" --client "$client" --version 1.0.200 \
   --out "$work/Skelda Backup.app" >/dev/null
 
-for pair in enu:C fre:fr_FR.UTF-8; do
+for pair in enu:C fre:fr_FR.UTF-8 jpn:ja_JP.UTF-8; do
   code=${pair%%:*} locale=${pair#*:}
   export HOME="$work/$code"
   mkdir -p "$HOME"
