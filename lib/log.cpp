@@ -214,18 +214,12 @@ int Logger::PrintToFilePointer(const char* format, ...) {
 int Logger::PrintToFilePointerV(const char* format, va_list args) {
     if (!log_fp)
         return 0;
-    // Lines come in bursts: the stamp is formatted once per second and thread, which
-    // takes a third off the cost of a written line.
-    thread_local time_t stamp_time = -1;
-    thread_local char stamp[512];
-    thread_local size_t stamp_len = 0;
+    // Formatted for every line: the month name follows the C library locale of the moment.
+    char stamp[512];
     time_t now = std::time(nullptr);
-    if (now != stamp_time) {
-        struct tm local;
-        localtime_r(&now, &local);
-        stamp_len = std::strftime(stamp, sizeof stamp, "%b %d %H:%M:%S ", &local);
-        stamp_time = now;
-    }
+    struct tm local;
+    localtime_r(&now, &local);
+    size_t stamp_len = std::strftime(stamp, sizeof stamp, "%b %d %H:%M:%S ", &local);
     int written = static_cast<int>(std::fwrite(stamp, 1, stamp_len, log_fp));
     written += std::vfprintf(log_fp, format, args);
     std::fflush(log_fp);

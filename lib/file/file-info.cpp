@@ -7,7 +7,6 @@
 #include "fs-platform.h"
 #include "file/file-op.h"
 #include "log/log.h"
-#include "file-op-internal.h"
 
 namespace {
 
@@ -27,17 +26,8 @@ int TypeFromMode(mode_t mode) {
     }
 }
 
-}  // namespace
-
-bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
-    return a.exists == b.exists && a.size == b.size && a.mtime == b.mtime &&
-           a.type == b.type && a.path == b.path && a.name == b.name;
-}
-
-bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
-    return !(a == b);
-}
-
+// Fills info from lstat, path and name as given. A missing path is success with exists
+// false; any other lstat failure is -1 with info untouched; an unknown type is -1.
 int LstatFileInfo(const ustring& path, _FILE_INFO_tag& info) {
     struct stat st;
     if (lstat(path.c_str(), &st) != 0) {
@@ -63,6 +53,17 @@ int LstatFileInfo(const ustring& path, _FILE_INFO_tag& info) {
         return -1;
     info.type = type;
     return 0;
+}
+
+}  // namespace
+
+bool operator==(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+    return a.exists == b.exists && a.size == b.size && a.mtime == b.mtime &&
+           a.type == b.type && a.path == b.path && a.name == b.name;
+}
+
+bool operator!=(const _FILE_INFO_tag& a, const _FILE_INFO_tag& b) {
+    return !(a == b);
 }
 
 int GetFileInfo(const ustring& path, _FILE_INFO_tag& info) {

@@ -105,16 +105,3 @@ int FileSystemTypeName(const char* path, std::string& name) {
     }
     return 0;
 }
-
-ssize_t CopyInKernel(int in, int out, size_t length) {
-    ssize_t n = copy_file_range(in, nullptr, out, nullptr, length, 0);
-    // Files on two file systems, special files, or a kernel or file system without support.
-    if (n < 0 && (errno == EXDEV || errno == EINVAL || errno == EOPNOTSUPP || errno == ENOSYS ||
-                  errno == ETXTBSY))
-        errno = ENOSYS;
-    return n;
-}
-
-void StartWriteback(int fd, off_t offset, off_t length) {
-    sync_file_range(fd, offset, length, SYNC_FILE_RANGE_WRITE);
-}

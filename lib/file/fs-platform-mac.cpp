@@ -7,7 +7,6 @@
 #include <sys/mount.h>
 #include <sys/param.h>
 
-#include <cerrno>
 #include <cstring>
 
 int StoredSpelling(const char* path, bool follow_leaf, char* buf, size_t size) {
@@ -29,13 +28,4 @@ int FileSystemTypeName(const char* path, std::string& name) {
         return -1;
     name = fs.f_fstypename;
     return 0;
-}
-
-ssize_t CopyInKernel(int, int, size_t) {
-    errno = ENOSYS;  // copies go through the caller's buffer
-    return -1;
-}
-
-void StartWriteback(int, off_t, off_t) {
-    // The unified buffer cache of macOS streams large writes out by itself.
 }

@@ -8,10 +8,8 @@
 int FSRemove(const ustring& path, bool /*recursive: removal is always recursive*/) {
     if (path.empty())
         return -1;
-    // Only the type matters here, so the stored spelling (a lookup of every parent per
-    // entry) is not asked for.
     _FILE_INFO_tag info;
-    if (LstatFileInfo(path, info) != 0)
+    if (GetFileInfo(path, info) != 0)
         return -1;
     if (!info.exists)
         return 0;

@@ -37,24 +37,21 @@ struct CaseFoldTable {
 };
 const CaseFoldTable str_case_cmp;
 
-// Unsigned byte order over at most n bytes. Both texts end in their terminator, so nothing
-// past the shorter one's terminator is read. memcmp only says whether blocks differ, so
-// equal blocks are skipped coarsely, then finely, and the last few bytes walked one by one.
-int compare_bytes(const char* a, size_t alen, const char* b, size_t blen, size_t n)
+// Unsigned byte order over at most n bytes, up to the first difference or the terminator,
+// with each byte mapped through the case-folding table when ignore_case is set.
+int compare_bytes(const char* a, const char* b, size_t n, bool ignore_case)
 {
-    size_t limit = (alen < blen ? alen : blen) + 1;
-    if (n < limit)
-        limit = n;
-    size_t i = 0;
-    for (size_t block : {size_t(1024), size_t(16)}) {
-        while (limit - i >= block && std::memcmp(a + i, b + i, block) == 0)
-            i += block;
-    }
-    for (; i < limit; ++i) {
-        const unsigned char ca = static_cast<unsigned char>(a[i]);
-        const unsigned char cb = static_cast<unsigned char>(b[i]);
+    for (size_t i = 0; i < n; ++i) {
+        unsigned char ca = static_cast<unsigned char>(a[i]);
+        unsigned char cb = static_cast<unsigned char>(b[i]);
+        if (ignore_case) {
+            ca = str_case_cmp.map[ca];
+            cb = str_case_cmp.map[cb];
+        }
         if (ca != cb)
             return ca - cb;
+        if (ca == 0)
+            return 0;
     }
     return 0;
 }
@@ -280,28 +277,17 @@ void ustring::replace(char from, char to)
 
 int ustring::compare(const ustring& o) const
 {
-    return compare_bytes(data, data_length, o.data, o.data_length, npos);
+    return compare_bytes(data, o.data, npos, false);
 }
 
 int ustring::compare(const ustring& o, size_t n) const
 {
-    return compare_bytes(data, data_length, o.data, o.data_length, n);
+    return compare_bytes(data, o.data, n, false);
 }
 
 int ustring::compare(const ustring& a, const ustring& b, bool ignore_case)
 {
-    if (!ignore_case)
-        return a.compare(b);
-    const unsigned char* pa = reinterpret_cast<const unsigned char*>(a.data);
-    const unsigned char* pb = reinterpret_cast<const unsigned char*>(b.data);
-    const size_t limit = (a.data_length < b.data_length ? a.data_length : b.data_length) + 1;
-    for (size_t i = 0; i < limit; ++i) {
-        const unsigned char ca = str_case_cmp.map[pa[i]];
-        const unsigned char cb = str_case_cmp.map[pb[i]];
-        if (ca != cb)
-            return ca - cb;
-    }
-    return 0;
+    return compare_bytes(a.data, b.data, npos, ignore_case);
 }
 
 bool operator==(const ustring& a, const ustring& b) { return a.compare(b) == 0; }

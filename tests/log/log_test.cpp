@@ -1,10 +1,10 @@
-// The logger: line format, thresholds, rotation, failed Initialize and two threads at once.
-#include <algorithm>
-#include <cstdio>
+// The logger: start-up default, line format, thresholds, rotation, the time stamp's locale.
+#include <gmock/gmock.h>
+
+#include <clocale>
+#include <cstdlib>
 #include <ctime>
-#include <string>
-#include <thread>
-#include <vector>
+#include <sstream>
 
 #include "log/log.h"
 #include "temp_dir.h"
@@ -13,17 +13,27 @@ namespace {
 
 using namespace skelda_test;
 
-std::vector<std::string> Lines(const std::string& file) {
-    const std::string text = ReadFile(file);
+// Before Initialize the logger writes WARNING and worse, time-stamped, to standard error. CTest
+// runs each case in a process of its own, and this case comes first, so nothing touched it yet.
+TEST(LogStartup, WarningAndWorseGoToStandardErrorBeforeInitialize) {
+    ::testing::internal::CaptureStderr();
+    Logger::LogMsg(Logger::WARNING, "launcher_debug", "[WARNING] s(%d): early\n", 1);
+    Logger::LogMsg(Logger::INFO, "launcher_debug", "[INFO] s(%d): early\n", 2);
+    Logger::LogMsg(Logger::ERROR, "service_debug", "[ERROR] s(%d): early\n", 3);
+    const std::string stamp = "[A-Z][a-z][a-z] [0-9][0-9] [0-9][0-9]:[0-9][0-9]:[0-9][0-9] ";
+    EXPECT_THAT(::testing::internal::GetCapturedStderr(), ::testing::MatchesRegex(
+        stamp + "\\[WARNING\\] s\\(1\\): early\n" + stamp + "\\[ERROR\\] s\\(3\\): early\n"));
+}
+
+std::vector<std::string> Lines(const std::string& file) {  // each with its "\n"
     std::vector<std::string> lines;
-    for (size_t start = 0, end; start < text.size(); start = end) {
-        end = std::min(text.find('\n', start), text.size() - 1) + 1;
-        lines.push_back(text.substr(start, end - start));
-    }
+    std::istringstream in(ReadFile(file));
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line + "\n");
     return lines;
 }
 
-// A time stamp of a second in [from, now], then body.
+// A time stamp of a second in [from, now] in the current locale, then body.
 ::testing::AssertionResult Stamped(const std::string& line, const std::string& body, time_t from) {
     for (time_t t = from; t <= std::time(nullptr); ++t) {
         struct tm local;
@@ -37,19 +47,13 @@ std::vector<std::string> Lines(const std::string& file) {
 
 class Log : public TempDirTest {
 protected:
-    void SetUp() override {
-        TempDirTest::SetUp();
+    void TearDown() override { Logger::Destroy(), TempDirTest::TearDown(); }
+    std::string Start(const std::string& name, const std::string& levels = "") {
         Logger::log_level.clear();
-    }
-    void TearDown() override {
-        Logger::Destroy();
-        TempDirTest::TearDown();
-    }
-    std::string Start(const std::string& name, int rotate = 50, const std::string& levels = "") {
-        EXPECT_EQ(Logger::Initialize(Logger::LOGFILE, ustring(path(name)), ustring(levels), rotate),
-                  0);
+        EXPECT_EQ(Logger::Initialize(Logger::LOGFILE, ustring(path(name)), ustring(levels), 50), 0);
         return path(name);
     }
+    void Warn(const char* text) { Logger::LogMsg(Logger::WARNING, "launcher_debug", "%s\n", text); }
     const time_t from = std::time(nullptr);
 };
 
@@ -57,131 +61,56 @@ TEST_F(Log, SklogLineIsStampLevelSourceLineThenText) {
     const std::string log = Start("launcher.log");
     SKLOG(WARNING, "launcher_debug", "value %s, %d\n", "x", 5); const int line = __LINE__;
     SKLOG(ERROR, "service_debug", "no arguments\n");
-    SKLOG(NOTE, "service_debug", "filtered\n");
     const auto lines = Lines(log);
     ASSERT_EQ(lines.size(), 2u);
-    EXPECT_TRUE(Stamped(lines[0], "[WARNING] log_test.cpp(" + std::to_string(line) +
-                                      "): value x, 5\n", from));
-    EXPECT_TRUE(Stamped(lines[1], "[ERROR] log_test.cpp(" + std::to_string(line + 1) +
-                                      "): no arguments\n", from));
+    EXPECT_TRUE(Stamped(lines[0], "[WARNING] log_test.cpp(" + std::to_string(line) + "): value x, 5\n", from));
+    EXPECT_TRUE(Stamped(lines[1], "[ERROR] log_test.cpp(" + std::to_string(line + 1) + "): no arguments\n", from));
 }
 
-struct LevelRow { const char* name; const char* levels; const char* component; Logger::Level level;
-                  bool written; };
-class LogLevels : public Log, public testing::WithParamInterface<LevelRow> {};
-
-TEST_P(LogLevels, DecideWhatIsWritten) {
-    const LevelRow& row = GetParam();
-    if (row.levels)
-        WriteFile(path("launcher.debug"), row.levels);
-    const std::string log = Start("launcher.log", 50, row.levels ? path("launcher.debug") : "");
-    Logger::LogMsg(row.level, ustring(row.component), "probe\n");
-    EXPECT_EQ(!ReadFile(log).empty(), row.written) << row.component << " at " << row.level;
+TEST_F(Log, LevelsFileDecidesWhatIsWritten) {
+    const char *file_op7 = "file_op_debug=7\n", *bad = "file_op_debug=7\nservice_debug=0\nnot a line\n";
+    using L = Logger;
+    const struct { const char *levels, *component; Logger::Level level; bool written; } rows[] = {
+        {"", "service_debug", L::WARNING, true}, {"", "unknown", L::NOTE, false},
+        {file_op7, "file_op_debug", L::DEBUG, true}, {file_op7, "service_debug", L::NOTE, false},
+        {"service_debug=0\n", "service_debug", L::ERROR, false},
+        {"service_debug=x\n", "service_debug", L::ERROR, false},
+        {"File_op_debug=3\nfile_op_debug=3\n", "file_op_debug", L::WARNING, false},
+        {"# l\n\nextractor_debug = 6 # i\n", "extractor_debug", L::INFO, true},
+        {bad, "file_op_debug", L::DEBUG, false}, {bad, "service_debug", L::ERROR, true}};
+    int i = 0;
+    for (const auto& r : rows) {  // "" stands for no file at all
+        WriteFile(path("launcher.debug"), r.levels);
+        const std::string log = Start(std::to_string(++i), *r.levels ? path("launcher.debug") : "");
+        Logger::LogMsg(r.level, ustring(r.component), "probe\n");
+        EXPECT_EQ(!ReadFile(log).empty(), r.written) << r.component << " at " << r.level << " by " << r.levels;
+    }
 }
-
-const char kFileOp7[] = "file_op_debug=7\n";
-const char kMalformed[] = "file_op_debug=7\nservice_debug=0\nnot a line\n";
-
-INSTANTIATE_TEST_SUITE_P(Rows, LogLevels, ::testing::Values(
-    LevelRow{"DefaultPassesWarning", nullptr, "service_debug", Logger::WARNING, true},
-    LevelRow{"DefaultFiltersNote", nullptr, "unknown", Logger::NOTE, false},
-    LevelRow{"RaisedPassesDebug", kFileOp7, "file_op_debug", Logger::DEBUG, true},
-    LevelRow{"OthersStayAtWarning", kFileOp7, "service_debug", Logger::NOTE, false},
-    LevelRow{"ZeroSilencesError", "service_debug=0\n", "service_debug", Logger::ERROR, false},
-    LevelRow{"NonNumberSilencesError", "service_debug=x\n", "service_debug", Logger::ERROR, false},
-    LevelRow{"LoweredFiltersWarning", "file_op_debug=3\n", "file_op_debug", Logger::WARNING, false},
-    LevelRow{"CommentsAndBlanks", "# l\n\nextractor_debug = 6 # i\n", "extractor_debug",
-             Logger::INFO, true},
-    LevelRow{"NamesAreCaseSensitive", "File_op_debug=7\n", "file_op_debug", Logger::DEBUG, false},
-    LevelRow{"MalformedFileRaisesNothing", kMalformed, "file_op_debug", Logger::DEBUG, false},
-    LevelRow{"MalformedFileSilencesNothing", kMalformed, "service_debug", Logger::ERROR, true}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(Log, MessageReachingTheLimitEndsTheRotatedFile) {
     const std::string log = path("launcher.log");
     const size_t line = 16 + std::string("probe N\n").size();  // "Nov 16 20:31:40 probe N\n"
     WriteFile(log, std::string(Logger::kRotateSize - line - 1, 'x') + "\n");  // size taken from it
     Start("launcher.log");
-    for (int i = 1; i <= 3; ++i)
-        Logger::LogMsg(Logger::WARNING, "launcher_debug", "probe %d\n", i);
+    Warn("probe 1"), Warn("probe 2"), Warn("probe 3");
     EXPECT_EQ(ReadFile(log + "_0").size(), size_t(Logger::kRotateSize));
     EXPECT_TRUE(Stamped(Lines(log + "_0").back(), "probe 1\n", from));
-    ASSERT_EQ(Lines(log).size(), 2u);
-    EXPECT_TRUE(Stamped(Lines(log)[1], "probe 3\n", from));
+    EXPECT_TRUE(Lines(log).size() == 2 && Stamped(Lines(log)[1], "probe 3\n", from));
     EXPECT_EQ(size_t(*Logger::log_size), 2 * line);
 }
 
-TEST_F(Log, SixtyRotationsKeepP0ToP48) {
-    const std::string log = Start("launcher.log", 50);
-    for (int i = 0; i < 60; ++i) {
-        *Logger::log_size = Logger::kRotateSize - 1;  // the next message crosses the limit
-        Logger::LogMsg(Logger::WARNING, "launcher_debug", "message %d\n", i);
-    }
-    for (int k = 0; k <= 48; ++k) {
-        const auto lines = Lines(log + "_" + std::to_string(k));
-        ASSERT_EQ(lines.size(), 1u) << "P_" << k;
-        EXPECT_TRUE(Stamped(lines[0], "message " + std::to_string(59 - k) + "\n", from));
-    }
-    EXPECT_FALSE(Exists(log + "_49"));
-    EXPECT_EQ(ReadFile(log), "");
-}
-
-TEST_F(Log, ChangedRotationCounterReopensThePath) {
+TEST_F(Log, StampFollowsALocaleChangeWithinTheSameSecond) {
+    ASSERT_EQ(std::system(("localedef -i fr_FR -f UTF-8 " + path("fr_FR.UTF-8")).c_str()), 0);
+    setenv("LOCPATH", dir().c_str(), 1);
     const std::string log = Start("launcher.log");
-    Logger::LogMsg(Logger::WARNING, "launcher_debug", "before\n");
-    ASSERT_EQ(std::rename(log.c_str(), path("moved.log").c_str()), 0);
-    ++*Logger::log_rotated_count_shared;  // as another holder of the shared data does
-    Logger::LogMsg(Logger::WARNING, "launcher_debug", "after\n");
-    ASSERT_EQ(Lines(log).size(), 1u);
-    EXPECT_TRUE(Stamped(Lines(log)[0], "after\n", from));
-    EXPECT_EQ(Lines(path("moved.log")).size(), 1u);
-    EXPECT_EQ(size_t(*Logger::log_size), ReadFile(log).size()) << "size taken from the file";
-}
-
-TEST_F(Log, FailedFileInitializeKeepsThePreviousFileWithoutRotation) {
-    const std::string first = Start("first.log");
-    MakeDirs(path("folder.log"));
-    for (const std::string& bad : {std::string(), path("no/such/x.log"), path("folder.log")}) {
-        EXPECT_EQ(Logger::Initialize(Logger::LOGFILE, ustring(bad), ustring(""), 50), -1) << bad;
-        EXPECT_EQ(*Logger::log_size, -1) << "no size accounting after a failed Initialize";
-    }
-    Logger::LogMsg(Logger::ERROR, "c", "%s\n", std::string(Logger::kRotateSize, 'b').c_str());
-    Logger::LogMsg(Logger::ERROR, "c", "still here\n");
-    ASSERT_EQ(Lines(first).size(), 2u);
-    EXPECT_TRUE(Stamped(Lines(first)[1], "still here\n", from));
-    EXPECT_FALSE(Exists(first + "_0") || Exists(path("folder.log_0"))) << "nothing rotated";
-    Logger::Destroy();
-    Logger::LogMsg(Logger::ERROR, "c", "dropped until the next Initialize\n");
-    EXPECT_EQ(Lines(first).size(), 2u);
-}
-
-TEST_F(Log, TwoThreadsAcrossARotationTearOrLoseNoLine) {
-    const std::string log = Start("launcher.log");
-    const int per_thread = 3000;  // enough to cross the rotation size once
-    const std::string pad(180, 'p');
-    auto writer = [&](char name) {
-        for (int i = 0; i < per_thread; ++i)
-            Logger::LogMsg(Logger::WARNING, "c", "%c %d %s\n", name, i, pad.c_str());
-    };
-    std::thread a(writer, 'A'), b(writer, 'B');
-    a.join();
-    b.join();
-    ASSERT_TRUE(Exists(log + "_0")) << "the run was meant to rotate once";
-    int next[2] = {0, 0};
-    for (const std::string& file : {log + "_0", log}) {
-        for (const std::string& line : Lines(file)) {
-            char name = 0;
-            int number = -1;
-            std::sscanf(line.c_str() + std::min<size_t>(16, line.size()), "%c %d", &name, &number);
-            ASSERT_TRUE(name == 'A' || name == 'B') << "torn line: " << line;
-            const std::string body = name + (" " + std::to_string(number)) + " " + pad + "\n";
-            ASSERT_TRUE(Stamped(line, body, from));
-            ASSERT_EQ(number, next[name - 'A']++) << "lost or reordered line";
-        }
-    }
-    EXPECT_EQ(next[0], per_thread);
-    EXPECT_EQ(next[1], per_thread);
-    EXPECT_EQ(size_t(*Logger::log_size), ReadFile(log).size()) << "every byte counted once";
+    Warn("C");
+    ASSERT_NE(std::setlocale(LC_TIME, "fr_FR.UTF-8"), nullptr);
+    Warn("fr");
+    const auto lines = Lines(log);
+    ASSERT_TRUE(lines.size() == 2 && Stamped(lines[1], "fr\n", from));
+    std::setlocale(LC_TIME, "C"), unsetenv("LOCPATH");
+    EXPECT_TRUE(Stamped(lines[0], "C\n", from));
+    EXPECT_NE(lines[0].substr(0, 3), lines[1].substr(0, 3)) << "month names of both locales";
 }
 
 }  // namespace

@@ -1,94 +1,65 @@
-// The string table: its rows, LoadStr with and without a translator, and key lookup.
-
-#include "str-table.h"
+// The string table (LoadStr with and without a translation, key lookup) and the choice of a
+// language among the compiled translations of the resource collection "texts".
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QRegularExpression>
-#include <QSet>
+#include <QFile>
 #include <QTranslator>
 
-#include <utility>
-
-void PrintTo(const QString& text, std::ostream* os) { *os << '"' << text.toStdString() << '"'; }
+#include "str-table.h"
+#include "varn-locale.h"
 
 namespace {
 
 const int kSslError = 153;  // its English text and its French translation hold backslash-n
-
-TEST(StrTableRows, HaveUniqueKeysAndSharedTexts)
-{
-    const QRegularExpression identifier("^[a-z0-9_]+$");
-    QSet<QByteArray> keys;
-    QSet<QString> texts;
-    for (int id = 0; id < StrTable::kStrCount; ++id) {
-        const QByteArray key(StrTable::ktab[id]);
-        EXPECT_TRUE(identifier.match(key).hasMatch()) << "row " << id << ": " << key.data();
-        EXPECT_FALSE(keys.contains(key)) << "duplicate key " << key.data();
-        keys.insert(key);
-        ASSERT_NE(StrTable::stab[id], nullptr) << "row " << id;
-        texts.insert(QString::fromUtf8(StrTable::stab[id]));
-    }
-    EXPECT_EQ(StrTable::kStrCount, 312);
-    EXPECT_EQ(texts.size(), 297);
-}
-
-TEST(LoadStr, WithoutTranslatorGivesEnglishDecodedAndExpanded)
-{
-    EXPECT_EQ(StrTable::LoadStr(13), "Skelda Backup");
+TEST(LoadStr, GivesEnglishOrTheCompiledFrenchDecodedWithLineBreaks) {
     EXPECT_EQ(StrTable::LoadStr(57), "Skelda Backup is initializing...");
     EXPECT_EQ(StrTable::LoadStr(203), QString("Taking snapshots") + QChar(0x2026));
     EXPECT_EQ(StrTable::LoadStr(kSslError),
               "The certificate of %1 is not trusted.\nDo you want to continue anyway?");
-}
-
-TEST(LoadStr, CompiledFrenchIsUsedWithItsLineBreaks)
-{
     QTranslator french;
-    ASSERT_TRUE(french.load(":/fre.qm"));
-    ASSERT_TRUE(QCoreApplication::installTranslator(&french));
-    EXPECT_EQ(StrTable::LoadStr(13), "Skelda Backup");
+    ASSERT_TRUE(french.load(":/fre.qm") && QCoreApplication::installTranslator(&french));
     EXPECT_EQ(StrTable::LoadStr(57), "Initialisation de Skelda Backup...");
     EXPECT_EQ(StrTable::LoadStr(kSslError),  // the literal is UTF-8
               "Le certificat de %1 n'est pas approuvé.\nVoulez-vous continuer quand même ?");
     QCoreApplication::removeTranslator(&french);
 }
 
-// Answers "Cancel" (row 25) when asked as LoadStr must ask; other texts fall back to English.
-struct CancelTranslator : QTranslator {
-    bool isEmpty() const override { return false; }
-    QString translate(const char* context, const char* source, const char* disambiguation,
-                      int n) const override
-    {
-        const bool asked_right = qstrcmp(context, "global") == 0 && !disambiguation && n == -1;
-        return asked_right && qstrcmp(source, "Cancel") == 0 ? "A\\tB\\N\\T\\\\n" : QString();
-    }
-};
-
-TEST(LoadStr, ExpandsOnlyLowerCaseEscapesOfATranslation)
-{
-    CancelTranslator translator;
-    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
-    EXPECT_EQ(StrTable::LoadStr(25), "A\tB\\N\\T\\\n");
-    EXPECT_EQ(StrTable::LoadStr(13), "Skelda Backup");
-    QCoreApplication::removeTranslator(&translator);
+TEST(LookupStrID, FindsKeyIgnoringAsciiCase) {
+    const struct { const char* key; int id; } rows[] = {
+        {"APP_NAME", 13}, {"app_name", 13}, {"App_Name", 13}, {"wizard_welcome_slogan", 311}, {"", -1},
+        {"accessible_add_filename_button", 0}, {"no_such_key", -1}, {"app_nam", -1}, {"app_name ", -1},
+        {"Skelda Backup", -1}};
+    for (const auto& r : rows)
+        EXPECT_EQ(StrTable::LookupStrID(r.key), r.id) << '"' << r.key << '"';
 }
 
-TEST(LookupStrID, FindsKeyIgnoringAsciiCase)
-{
-    const std::pair<const char*, int> rows[] = {
-        {"APP_NAME", 13}, {"app_name", 13}, {"App_Name", 13}, {"wizard_welcome_slogan", 311},
-        {"accessible_add_filename_button", 0}, {"no_such_key", -1}, {"", -1},
-        {"app_nam", -1}, {"app_name ", -1}, {"Skelda Backup", -1}};
-    for (const auto& [key, id] : rows)
-        EXPECT_EQ(StrTable::LookupStrID(key), id) << '"' << key << '"';
+// Names are matched exactly as given (only getDefaultLanguage lowers them), hence zh_TW -> chs.
+TEST(Language, ByLocaleIsAShippedCodeAndTheMapTakesANineteenthEntry) {
+    const struct { const char *locale, *code; } rows[] = {
+        {"fr_fr", "fre"}, {"fr_ca", "fre"}, {"de_at", "ger"}, {"de", "ger"}, {"es_mx", "spn"}, {"en_us", "enu"},
+        {"ja_jp", "jpn"}, {"ko_kr", "krn"}, {"it_it", "ita"}, {"ru_ru", "rus"}, {"da_dk", "dan"}, {"sv_se", "sve"},
+        {"nl_be", "nld"}, {"pl_pl", "plk"}, {"hu_hu", "hun"}, {"tr_tr", "trk"}, {"cs_cz", "csy"}, {"pt_br", "ptb"},
+        {"pt_pt", "ptg"}, {"pt", "ptg"}, {"pt_ao", "ptb"}, {"PT_PT", "enu"}, {"zh_cn", "chs"}, {"zh_tw", "cht"},
+        {"zh_hk", "cht"}, {"zh_sg", "chs"}, {"zh_mo", "cht"}, {"zh", "chs"}, {"zh_TW", "chs"}, {"zh_tw_x", "chs"},
+        {"nb_no", "nor"}, {"nn_no", "nor"}, {"no", "nor"}, {"fi_fi", "enu"}, {"C", "enu"}, {"", "enu"},
+        {"fr_", "fre"}, {"_fr", "enu"}, {"frr_de", "enu"}};
+    VarnLocale* locale = VarnLocale::getInstance();
+    for (const auto& row : rows) {
+        const QString code = locale->getLanguageByLocale(row.locale);
+        EXPECT_TRUE(code == row.code && QFile::exists(":/" + code + ".qm")) << row.locale << "->" << qPrintable(code);
+    }
+    // "xx" is looked up nowhere else.
+    EXPECT_EQ(locale->languageMap().size(), 18);
+    locale->setLanguageMap("xx", "fre"), locale->setLanguageMap("xx", "ger");
+    EXPECT_EQ(locale->languageMap().size(), 19) << "replacing does not add";
+    EXPECT_EQ(locale->getLanguageByLocale("xx_yy").toStdString(), "ger");
 }
 
 } // namespace
 
-int main(int argc, char** argv)
-{
+int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     Q_INIT_RESOURCE(texts);
     StrTable::InitStrTable();

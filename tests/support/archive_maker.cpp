@@ -3,15 +3,9 @@
 #include <archive.h>
 #include <archive_entry.h>
 
-#include <algorithm>
 #include <cstdint>
 
 namespace skelda_test {
-
-const char* ArchiveFormatName(ArchiveFormat format) {
-    static const char* const names[] = {"tar", "tgz", "zip", "gz"};
-    return names[static_cast<int>(format)];
-}
 
 std::string ArchiveWriter::Fail(const std::string& what) {
     const char* text = archive_error_string(a_.get());
@@ -31,55 +25,40 @@ std::string ArchiveWriter::Open(const std::string& path, ArchiveFormat format) {
     return archive_write_open_filename(a, path.c_str()) == ARCHIVE_OK ? "" : Fail("open");
 }
 
-std::string ArchiveWriter::Header(const ArchiveEntry& entry, size_t size) {
-    if (!a_)
-        return "archive not open";
+std::string ArchiveWriter::Add(const ArchiveEntry& entry) {
     static const unsigned kTypes[] = {AE_IFREG, AE_IFDIR, AE_IFLNK};  // by ArchiveEntry::Kind
     static const int kPerms[] = {0644, 0755, 0777};
     const int kind = static_cast<int>(entry.kind);
+    const bool file = entry.kind == ArchiveEntry::Kind::File;
     archive_entry* e = archive_entry_new();
     archive_entry_set_pathname(e, entry.name.c_str());
     archive_entry_set_filetype(e, kTypes[kind]);
-    archive_entry_set_perm(e, entry.mode ? entry.mode : kPerms[kind]);
-    archive_entry_set_size(e, entry.kind == ArchiveEntry::Kind::File ? la_int64_t(size) : 0);
+    archive_entry_set_perm(e, kPerms[kind]);
+    archive_entry_set_size(e, file ? la_int64_t(entry.data.size()) : 0);
     if (entry.kind == ArchiveEntry::Kind::Symlink)
         archive_entry_set_symlink(e, entry.data.c_str());
     archive_entry_set_mtime(e, 1700000000, 0);  // fixed, so equal entries give equal bytes
     const int r = archive_write_header(a_.get(), e);
     archive_entry_free(e);
-    return r == ARCHIVE_OK ? "" : Fail("header of '" + entry.name + "'");
+    if (r != ARCHIVE_OK)
+        return Fail("header of '" + entry.name + "'");
+    if (file && !entry.data.empty() && archive_write_data(a_.get(), entry.data.data(), entry.data.size()) !=
+                                           static_cast<la_ssize_t>(entry.data.size()))
+        return Fail("data of '" + entry.name + "'");
+    return "";
 }
 
-std::string ArchiveWriter::Add(const ArchiveEntry& entry) {
-    std::string err = Header(entry, entry.data.size());
-    if (err.empty() && entry.kind == ArchiveEntry::Kind::File && !entry.data.empty() &&
-        archive_write_data(a_.get(), entry.data.data(), entry.data.size()) !=
-            static_cast<la_ssize_t>(entry.data.size()))
-        err = Fail("data of '" + entry.name + "'");
-    return err;
-}
-
-std::string ArchiveWriter::AddGeneratedFile(const std::string& name, size_t size,
-                                            unsigned seed) {
-    std::string err = Header(ArchiveEntry::File(name, ""), size);
+std::string ArchiveWriter::AddGeneratedFile(const std::string& name, size_t size, unsigned seed) {
     static const char kText[] = "Skelda Backup keeps your files safe. ";
     uint32_t noise = seed * 2654435761u + 1;
-    char chunk[65536];
-    for (size_t done = 0; err.empty() && done < size; done += sizeof chunk) {
-        const size_t n = std::min(sizeof chunk, size - done);
-        for (size_t at = done; at < done + n; ++at) {
-            chunk[at - done] = (at >> 11) & 1 ? kText[at % (sizeof kText - 1)]
-                                              : char((noise = noise * 1103515245u + 12345u) >> 24);
-        }
-        if (archive_write_data(a_.get(), chunk, n) != static_cast<la_ssize_t>(n))
-            err = Fail("data of '" + name + "'");
-    }
-    return err;
+    std::string data(size, '\0');
+    for (size_t at = 0; at < size; ++at)
+        data[at] = (at >> 11) & 1 ? kText[at % (sizeof kText - 1)]
+                                  : char((noise = noise * 1103515245u + 12345u) >> 24);
+    return Add(ArchiveEntry::File(name, data));
 }
 
 std::string ArchiveWriter::Close() {
-    if (!a_)
-        return "archive not open";
     std::string err = archive_write_close(a_.get()) == ARCHIVE_OK ? "" : Fail("close");
     a_.reset();
     return err;

@@ -1,7 +1,6 @@
 #pragma once
-// A fresh folder per test, with HOME pointed into it so that nothing touches
-// the real home folder. The folder is removed when the test passes and kept,
-// with its path printed, when it fails, so the failure can be looked at.
+// A fresh folder per test, with HOME pointed into it so that nothing touches the real home
+// folder; removed when the test passes, kept (its path printed) for a look when it fails.
 
 #include <gtest/gtest.h>
 
@@ -13,16 +12,13 @@ class TempDirTest : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
-
     // The test's own folder and the HOME it was given (a sub-folder "home").
     const std::string& dir() const { return dir_; }
     const std::string& home() const { return home_; }
     std::string path(const std::string& rel) const { return dir_ + "/" + rel; }
 
 private:
-    std::string dir_;
-    std::string home_;
-    std::string saved_home_;
+    std::string dir_, home_, saved_home_;
     bool had_home_ = false;
 };
 
