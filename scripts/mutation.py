@@ -1,0 +1,195 @@
+#!/usr/bin/env python3
+"""Which small faults in the product code does the test suite notice?
+
+Copies the checkout (tracked and untracked, unignored files as they stand) to a temporary
+folder, builds it once, then applies one small fault at a time to the product sources
+(lib/, include/, ui-client/): a flipped comparison or logical operator, a constant changed
+by one, a swapped returned result, a negated condition, a deleted call. After each fault
+it rebuilds incrementally and runs the tests without the slow label. A fault is caught when
+a test fails or the run hangs; a fault that does not compile is replaced by the next one in
+the seeded order. Prints the share caught and the faults that survive, by file and line.
+
+    python3 scripts/mutation.py --seed 13 --faults 80
+"""
+import argparse
+import os
+import random
+import re
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOTS = ("lib/", "include/", "ui-client/")
+SKIP = re.compile(r"-mac\.cpp$|/translations/")  # not built here, or not code
+SWAPS = [
+    ("==", "!="), ("!=", "=="), ("<=", "<"), (">=", ">"), (" < ", " <= "), (" > ", " >= "),
+    ("&&", "||"), ("||", "&&"),
+    ("return 0;", "return -1;"), ("return -1;", "return 0;"),
+    ("return true;", "return false;"), ("return false;", "return true;"),
+]
+INT = re.compile(r"(?<![\w.])(\d+)(?![\w.])")
+CALL = re.compile(r"^(\s*)[\w:.>-]+(<[\w:, ]*>)?\(.*\);\s*$")
+IF = re.compile(r"\b(if|while) \(")
+
+
+def code_part(line):
+    """The line with string and character literals and a trailing comment blanked out."""
+    out, quote, i = [], None, 0
+    while i < len(line):
+        c = line[i]
+        if quote:
+            if c == "\\":
+                out.append("  ")
+                i += 2
+                continue
+            out.append(" ")
+            if c == quote:
+                quote = None
+        elif c in "\"'":
+            quote = c
+            out.append(" ")
+        elif line.startswith("//", i):
+            break
+        else:
+            out.append(c)
+        i += 1
+    return "".join(out).ljust(len(line))
+
+
+def closing_paren(text, start):
+    depth = 0
+    for i in range(start, len(text)):
+        depth += {"(": 1, ")": -1}.get(text[i], 0)
+        if depth == 0:
+            return i
+    return -1
+
+
+def faults_of(path, lines):
+    """Every fault of the file as (path, line number, new line, description)."""
+    found = []
+    for no, line in enumerate(lines, 1):
+        code = code_part(line)
+        s = code.strip()
+        if not s or s.startswith(("#", "*", "/*")) or "static_assert" in s:
+            continue
+        for old, new in SWAPS:
+            for m in re.finditer(re.escape(old), code):
+                if old.strip() in "<>" and ("template" in code or "#include" in code):
+                    continue
+                at = m.start()
+                found.append((path, no, line[:at] + new + line[at + len(old):],
+                              f"'{old.strip()}' -> '{new.strip()}'"))
+        for m in INT.finditer(code):
+            if m.group(1).startswith("0") and m.group(1) != "0":
+                continue  # octal
+            n = int(m.group(1))
+            found.append((path, no, line[:m.start()] + str(n + 1) + line[m.end():],
+                          f"{n} -> {n + 1}"))
+        for m in IF.finditer(code):
+            open_at = m.end() - 1
+            close_at = closing_paren(code, open_at)
+            if close_at > 0:
+                cond = line[open_at + 1:close_at]
+                found.append((path, no, line[:open_at + 1] + "!(" + cond + ")" + line[close_at:],
+                              f"negated {m.group(1)} condition"))
+        if CALL.match(code) and not s.startswith(("return", "delete", "else")):
+            found.append((path, no, CALL.match(code).group(1) + ";\n", "deleted call"))
+    return found
+
+
+def sh(cmd, cwd, timeout=None):
+    """Runs cmd in its own process group; returns (exit code or None on timeout, output)."""
+    p = subprocess.Popen(cmd, cwd=cwd, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
+                         start_new_session=True, text=True, errors="replace")
+    try:
+        out, _ = p.communicate(timeout=timeout)
+        return p.returncode, out
+    except subprocess.TimeoutExpired:
+        os.killpg(p.pid, signal.SIGKILL)
+        p.communicate()
+        return None, ""
+
+
+def main():
+    ap = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    ap.add_argument("--seed", type=int, default=13)
+    ap.add_argument("--faults", type=int, default=80)
+    ap.add_argument("--work", help="folder for the copy (default: a new temporary folder)")
+    args = ap.parse_args()
+
+    top = subprocess.run(["git", "rev-parse", "--show-toplevel"], capture_output=True,
+                         text=True, check=True).stdout.strip()
+    work = args.work or tempfile.mkdtemp(prefix="skelda-mutation-")
+    src = os.path.join(work, "src")
+    files = subprocess.run(["git", "ls-files", "-co", "--exclude-standard"], cwd=top,
+                           capture_output=True, text=True, check=True).stdout.split("\n")
+    for f in filter(None, files):
+        if os.path.isfile(os.path.join(top, f)):
+            os.makedirs(os.path.dirname(os.path.join(src, f)), exist_ok=True)
+            shutil.copy2(os.path.join(top, f), os.path.join(src, f), follow_symlinks=False)
+
+    os.environ["QT_QPA_PLATFORM"] = "offscreen"
+    build = os.path.join(work, "build")
+    jobs = str(os.cpu_count() or 2)
+    rc, out = sh(["cmake", "-S", src, "-B", build, "-G", "Ninja", "-DSKELDA_BENCH=OFF",
+                  "-DCMAKE_BUILD_TYPE=RelWithDebInfo"], work)
+    if rc == 0:
+        rc, out = sh(["cmake", "--build", build, "-j", jobs], work)
+    ctest = ["ctest", "--test-dir", build, "-LE", "slow", "-j", jobs, "--stop-on-failure"]
+    started = time.time()
+    if rc == 0:
+        rc, out = sh(ctest, work)
+    if rc != 0:
+        sys.exit("the unchanged checkout does not build or pass its tests:\n" + out[-3000:])
+    limit = max(120, 4 * (time.time() - started))
+
+    candidates = []
+    for f in sorted(filter(None, files)):
+        if f.startswith(ROOTS) and f.endswith((".cpp", ".h")) and not SKIP.search(f):
+            with open(os.path.join(src, f), encoding="utf-8") as fh:
+                candidates += faults_of(f, fh.read().splitlines(keepends=True))
+    random.Random(args.seed).shuffle(candidates)
+    print(f"{len(candidates)} possible faults; seed {args.seed}; sample {args.faults}; "
+          f"test limit {limit:.0f} s", flush=True)
+
+    caught, survived, tried = 0, [], 0
+    for path, no, new_line, what in candidates:
+        if tried == args.faults:
+            break
+        target = os.path.join(src, path)
+        with open(target, encoding="utf-8") as fh:
+            original = fh.read()
+        lines = original.splitlines(keepends=True)
+        lines[no - 1] = new_line
+        with open(target, "w", encoding="utf-8") as fh:
+            fh.write("".join(lines))
+        try:
+            rc, _ = sh(["cmake", "--build", build, "-j", jobs], work, timeout=900)
+            if rc != 0:
+                continue  # does not compile: not a fault the tests could see
+            tried += 1
+            rc, _ = sh(ctest, work, timeout=limit)
+            verdict = "caught" if rc != 0 else "SURVIVED"
+            caught += rc != 0
+            if rc == 0:
+                survived.append(f"{path}:{no}: {what}: {new_line.strip()}")
+            print(f"[{tried}/{args.faults}] {verdict} {path}:{no} {what}", flush=True)
+        finally:
+            with open(target, "w", encoding="utf-8") as fh:
+                fh.write(original)
+
+    sh(["cmake", "--build", build, "-j", jobs], work)
+    print(f"\ncaught {caught} of {tried} faults ({100 * caught / max(tried, 1):.0f}%), "
+          f"seed {args.seed}")
+    if survived:
+        print("survived:\n  " + "\n  ".join(sorted(survived)))
+    if not args.work:
+        shutil.rmtree(work, ignore_errors=True)
+
+
+if __name__ == "__main__":
+    main()
