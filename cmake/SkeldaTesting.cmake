@@ -1,18 +1,21 @@
 include(GoogleTest)
 find_package(GTest REQUIRED)
 
-# skelda_add_test(<name> SOURCES ... [LIBS ...] [LABELS ...] [ENV ...] [TIMEOUT s] [OWN_MAIN])
-# OWN_MAIN: the sources bring main() (for example to create a QApplication first).
+# skelda_add_test(<name> SOURCES ... [LIBS ...] [LABELS ...] [ENV ...] [TIMEOUT s] [QT_MAIN])
+# QT_MAIN: main() creates the QApplication, the translations and the string table first
+# (tests/support/qt_main.cpp).
 # One small test binary per unit; its cases are registered one by one with CTest.
 # Qt always runs headless here.
 function(skelda_add_test name)
-  cmake_parse_arguments(T "OWN_MAIN" "TIMEOUT" "SOURCES;LIBS;LABELS;ENV" ${ARGN})
+  cmake_parse_arguments(T "QT_MAIN" "TIMEOUT" "SOURCES;LIBS;LABELS;ENV" ${ARGN})
   if(NOT T_TIMEOUT)
     set(T_TIMEOUT 120)
   endif()
   add_executable(${name} ${T_SOURCES})
   target_link_libraries(${name} PRIVATE skelda_flags skelda_test_support GTest::gtest GTest::gmock ${T_LIBS})
-  if(NOT T_OWN_MAIN)
+  if(T_QT_MAIN)
+    target_link_libraries(${name} PRIVATE skelda_qt_test_main)
+  else()
     target_link_libraries(${name} PRIVATE GTest::gtest_main)
   endif()
   set(_labels ${T_LABELS})

@@ -15,6 +15,7 @@ packages=(
   # Chinese (simplified and traditional), Japanese and Korean.
   fonts-liberation fonts-wqy-microhei
   procps util-linux hyperfine time python3
+  locales  # locale sources for localedef (the logger test builds fr_FR)
 )
 
 missing=()

@@ -1,5 +1,4 @@
 // Extractor and Notify_Adapter: what lands below dest, the dialog's reports, the error lines.
-#include <QCoreApplication>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
@@ -9,7 +8,6 @@
 #include "extractor.h"
 #include "log/log.h"
 #include "notify-adapter.h"
-#include "str-table.h"
 #include "temp_dir.h"
 
 namespace skelda_test {
@@ -90,10 +88,3 @@ INSTANTIATE_TEST_SUITE_P(Formats, FormatTest,
 
 }  // namespace
 }  // namespace skelda_test
-
-int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
-    StrTable::InitStrTable();  // the label comes from the string table
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include <QCoreApplication>
 #include <QFontInfo>
 #include <QGlyphRun>
 #include <QLabel>
@@ -72,13 +72,3 @@ TEST(DialogTextCheck, ACharacterNoFontHasIsNotDrawn) {
 }
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    Q_INIT_RESOURCE(texts);
-    StrTable::InitStrTable();
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

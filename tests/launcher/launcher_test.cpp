@@ -16,7 +16,6 @@
 #include "launcher.h"
 #include "log/log.h"
 #include "processing-progress-dialog.h"
-#include "str-table.h"
 #include "temp_dir.h"
 
 namespace skelda_test {
@@ -78,14 +77,6 @@ TEST_F(LauncherTest, DialogHasTheShippedAppearance) {
     EXPECT_TRUE(dialog->findChildren<QPushButton*>().isEmpty()) << "no cancel button";
 }
 
-TEST_F(LauncherTest, SevenReportsGiveTruncatedPercentagesAndStayVisible) {
-    dialog->show();
-    for (int n = 1; n <= 7; ++n)
-        QMetaObject::invokeMethod(launcher.get(), "UpdateProgress", Q_ARG(int, 7), Q_ARG(int, n));
-    EXPECT_EQ(values, (std::vector<int>{14, 28, 42, 57, 71, 85, 100}));
-    EXPECT_TRUE(dialog->isVisible()) << "reaching 100 must not hide the dialog";
-}
-
 // The worker's first act is its DEBUG "running" line: holding the logger's lock keeps it busy
 // while the dialog is closed and escaped in every way and the last window closes.
 TEST_F(LauncherTest, FirstInstallationSurvivesCloseRequestsAndEndsReady) {
@@ -135,12 +126,3 @@ TEST_F(LauncherTest, CurrentInstallationNeverShowsTheDialog) {
 
 }  // namespace
 }  // namespace skelda_test
-
-int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    StrTable::InitStrTable();
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

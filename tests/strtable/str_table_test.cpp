@@ -58,11 +58,3 @@ TEST(Language, ByLocaleIsAShippedCodeAndTheMapTakesANineteenthEntry) {
 }
 
 } // namespace
-
-int main(int argc, char** argv) {
-    QCoreApplication app(argc, argv);
-    Q_INIT_RESOURCE(texts);
-    StrTable::InitStrTable();
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

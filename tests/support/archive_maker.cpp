@@ -3,8 +3,6 @@
 #include <archive.h>
 #include <archive_entry.h>
 
-#include <cstdint>
-
 namespace skelda_test {
 
 std::string ArchiveWriter::Fail(const std::string& what) {
@@ -46,16 +44,6 @@ std::string ArchiveWriter::Add(const ArchiveEntry& entry) {
                                            static_cast<la_ssize_t>(entry.data.size()))
         return Fail("data of '" + entry.name + "'");
     return "";
-}
-
-std::string ArchiveWriter::AddGeneratedFile(const std::string& name, size_t size, unsigned seed) {
-    static const char kText[] = "Skelda Backup keeps your files safe. ";
-    uint32_t noise = seed * 2654435761u + 1;
-    std::string data(size, '\0');
-    for (size_t at = 0; at < size; ++at)
-        data[at] = (at >> 11) & 1 ? kText[at % (sizeof kText - 1)]
-                                  : char((noise = noise * 1103515245u + 12345u) >> 24);
-    return Add(ArchiveEntry::File(name, data));
 }
 
 std::string ArchiveWriter::Close() {

@@ -27,8 +27,6 @@ class ArchiveWriter {
 public:
     std::string Open(const std::string& path, ArchiveFormat format);
     std::string Add(const ArchiveEntry& entry);
-    // `size` bytes alternating 2 KiB of noise from `seed` and 2 KiB of text: compresses to half.
-    std::string AddGeneratedFile(const std::string& name, size_t size, unsigned seed);
     std::string Close();  // writes the trailer; the file is complete only after this
 
 private:

@@ -10,18 +10,15 @@
 namespace skelda_test {
 
 void TempDirTest::SetUp() {
-    const char *base = std::getenv("TMPDIR"), *home = std::getenv("HOME");
+    const char* base = std::getenv("TMPDIR");
     std::string tmpl = std::string(base && *base ? base : "/tmp") + "/skelda-test-XXXXXX";
     ASSERT_NE(mkdtemp(tmpl.data()), nullptr) << "mkdtemp " << tmpl;
     dir_ = tmpl;
     MakeDirs(home_ = dir_ + "/home");
-    had_home_ = home != nullptr;
-    saved_home_ = home ? home : "";
-    setenv("HOME", home_.c_str(), 1);
+    setenv("HOME", home_.c_str(), 1);  // never the real one, for the rest of the process
 }
 
 void TempDirTest::TearDown() {
-    had_home_ ? setenv("HOME", saved_home_.c_str(), 1) : unsetenv("HOME");
     if (HasFailure())
         std::cerr << "test folder kept for inspection: " << dir_ << "\n";
     else

@@ -18,8 +18,7 @@ protected:
     std::string path(const std::string& rel) const { return dir_ + "/" + rel; }
 
 private:
-    std::string dir_, home_, saved_home_;
-    bool had_home_ = false;
+    std::string dir_, home_;
 };
 
 // Small file helpers for arranging a test's disk; each one fails the test on error.
