@@ -4,7 +4,6 @@
 #include <archive_entry.h>
 #include <locale.h>
 
-#include <clocale>
 #include <cstdio>
 #include <memory>
 

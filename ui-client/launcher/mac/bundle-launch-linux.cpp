@@ -22,10 +22,10 @@ int UnregisterBundle(const QString& app_path) {
 // in its own session and in the user's home folder (where a launched application starts on
 // macOS too), without waiting for it. Opening an application that already runs only brings
 // it forward on macOS, so a client that still runs (the one that wrote the pid file beside
-// the bundle) counts as opened and no second copy is started. posix_spawn rather than fork: this runs on the worker
-// thread while the main thread is busy, and a forked child of a threaded process must not
-// allocate, which QProcess::startDetached does (it hung under AddressSanitizer). glibc's
-// posix_spawn reports a failed exec as its result.
+// the bundle) counts as opened and no second copy is started. posix_spawn rather than fork:
+// this runs on the worker thread while the main thread is busy, and a forked child of a
+// threaded process must not allocate, which QProcess::startDetached does (it hung under
+// AddressSanitizer). glibc's posix_spawn reports a failed exec as its result.
 bool OpenBundle(const QString& app_path) {
     const QByteArray pid_file = QFile::encodeName(QFileInfo(app_path).path() + "/ui.pid");
     if (RunningClient(pid_file.constData()) > 0)
