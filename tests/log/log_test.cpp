@@ -91,10 +91,12 @@ TEST_F(Log, MessageReachingTheLimitEndsTheRotatedFile) {
     const std::string log = path("launcher.log");
     const size_t line = 16 + std::string("probe N\n").size();  // "Nov 16 20:31:40 probe N\n"
     WriteFile(log, std::string(Logger::kRotateSize - line - 1, 'x') + "\n");  // size taken from it
+    WriteFile(log + "_0", "zero"), WriteFile(log + "_48", "oldest");  // of 50: all move up, one goes
     Start("launcher.log");
     Warn("probe 1"), Warn("probe 2"), Warn("probe 3");
     EXPECT_EQ(ReadFile(log + "_0").size(), size_t(Logger::kRotateSize));
     EXPECT_TRUE(Stamped(Lines(log + "_0").back(), "probe 1\n", from));
+    EXPECT_TRUE(ReadFile(log + "_1") == "zero" && !Exists(log + "_48") && !Exists(log + "_49"));
     EXPECT_TRUE(Lines(log).size() == 2 && Stamped(Lines(log)[1], "probe 3\n", from));
     EXPECT_EQ(size_t(*Logger::log_size), 2 * line);
 }
