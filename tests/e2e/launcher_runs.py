@@ -251,6 +251,28 @@ def lock_held_by_another_account_refuses_nothing(r):
         shutil.rmtree(folder, ignore_errors=True)
 
 
+@case("two_builds_at_once", "one_build_at_two_paths")
+def launchers_started_together(r, name):
+    """Two launchers of one user at two paths: one upgrade at a time, the newest build wins."""
+    common.make_client_tree(f"{r.work}/big-client", 600, 512, "big")
+    newer = common.make_bundle(r.launcher, f"{r.work}/big-client", "1.0.201",
+                               f"{r.work}/Newer.app")
+    other = r.bundle()
+    if name == "one_build_at_two_paths":
+        shutil.copytree(f"{r.work}/Newer.app", f"{r.work}/New.app", symlinks=True,
+                        dirs_exist_ok=True)
+    for attempt in range(4):
+        shutil.rmtree(r.user, ignore_errors=True)
+        order = (other, newer) if attempt % 2 else (newer, other)
+        for proc in [r.start(exe) for exe in order]:
+            r.wait(proc)
+        expect_package(r, r.package("Newer"))
+        check(not glob.glob(r.app + "_*"), f"backup folders left: {glob.glob(r.app + '_*')}")
+        if name == "one_build_at_two_paths":
+            check(r.count(READY) == 1, f"not one upgrade:\n{r.log()[-3000:]}")
+        common.kill_processes_of_home(r.home)
+
+
 # ---- hostile and damaged input ----
 
 @case("empty_package", "not_an_archive", "truncated_package")

@@ -2,10 +2,12 @@
 
 #include <QApplication>
 
+#include "installation-lock.h"
 #include "log/log.h"
 #include "mac/mac-service.h"
 #include "notify-adapter.h"
 #include "processing-progress-dialog.h"
+#include "skelda-service.h"
 #include "str-table.h"
 
 namespace {
@@ -48,6 +50,7 @@ void Worker::JoinThread() {
 
 void Worker::HandleServicce() {
     SKLOG(DEBUG, kLog, "running\n");
+    const InstallationLock lock(Service::GetUserSkeldaInstallPath());
     service->PreUpgrade();
     if (service->IsNeedUpgrade()) {
         emit sigShowMsg();
