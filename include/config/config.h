@@ -29,6 +29,13 @@ public:
         FILE* fp = std::fopen(path.c_str_utf8(), "r");
         if (!fp)
             return -1;
+        const int rc = read(fp);
+        std::fclose(fp);
+        return rc;
+    }
+
+    // The same for a stream that the caller opened (and closes), up to its end.
+    int read(FILE* fp) {
         // A longer line is taken in pieces of 8191 bytes, each parsed as a line.
         char line[8192];
         ustring key;
@@ -39,11 +46,9 @@ public:
                 (*this)[key] = value;
             } else if (rc == 2) {
                 clear();
-                std::fclose(fp);
                 return -1;
             }
         }
-        std::fclose(fp);
         return 0;
     }
 

@@ -303,6 +303,43 @@ def non_ascii_names_install_under_every_locale(r, name):
     expect_package(r, package)
 
 
+UNTRUSTED = {  # how ui.pid is made: the reason logged
+    "pid_of_another_account": "process {pid} is another account's",
+    "pid_file_dated_ahead": "dated in the future",
+    "pid_file_is_a_fifo": "not a regular file",
+    "pid_file_is_a_folder": "not a regular file",
+}
+
+
+@case(*UNTRUSTED)
+def untrusted_pid_file(r, name):
+    """An upgrade with a ui.pid that must not be believed: nothing of its process is
+    signalled, and the user's own client runs afterwards."""
+    r.install_old()
+    pid_file, other = f"{r.user}/ui.pid", None
+    if name == "pid_file_is_a_fifo":
+        os.mkfifo(pid_file)
+    elif name == "pid_file_is_a_folder":
+        os.makedirs(pid_file)
+    else:  # a live process that started before the file was written, not a client of r.home
+        user = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
+        other = subprocess.Popen(user * (name == "pid_of_another_account") + ["sleep", "600"])
+        r.children.append(other)
+        with open(pid_file, "w") as f:
+            f.write(f"pid={other.pid}\n")
+        if name == "pid_file_dated_ahead":
+            os.utime(pid_file, (time.time() + 3600,) * 2)
+    r.run(r.bundle(), timeout=60)
+    reason = UNTRUSTED[name].format(pid=other and other.pid)
+    r.expect(f"[NOTE] mac/running-client.cpp(", f"pid file '{pid_file}' not trusted: {reason}\n",
+             READY)
+    check(other is None or other.poll() is None, "the process of the pid file was signalled")
+    deadline = time.time() + 30
+    while not r.clients() and time.time() < deadline:
+        time.sleep(0.05)
+    check(r.clients(), "the user's own client was not started")
+
+
 def info(build):
     return b"[Version]\nbuild_version=" + build.encode() + b"\n"
 

@@ -30,9 +30,9 @@ namespace {
 
 Kills g_kills;  // every kill() of this process, see kill() at the end
 
-// The service's own log lines as "[LEVEL] message".
+// The log's lines as "[LEVEL] message".
 Lines LogMessages(const std::string& file) {
-    const std::regex re(R"(.*?(\[[A-Z]+\]) \S*service\S*\(\d+\): (.*))");
+    const std::regex re(R"(.*?(\[[A-Z]+\]) \S+\(\d+\): (.*))");
     Lines messages;
     std::ifstream in(file);
     std::smatch m;
@@ -139,9 +139,9 @@ TEST_F(ServiceTest, ProcessGoneOrStartedAfterThePidFileIsNeverSignalled) {
     for (const time_t age : {time_t{3600}, time(nullptr)}) {  // an hour ago; before the boot
         EXPECT_LT(Stop("pid=" + std::to_string(unrelated.pid) + "\n", age), 0.5);
         EXPECT_TRUE(g_kills.empty());
-        EXPECT_EQ(LoggedMessages(), Lines{"[NOTE] process " + std::to_string(unrelated.pid) +
-                                          " started after '" + user() +
-                                          "/ui.pid' was written: not the client"});
+        EXPECT_EQ(LoggedMessages(),
+                  Lines{"[NOTE] pid file '" + user() + "/ui.pid' not trusted: process " +
+                        std::to_string(unrelated.pid) + " started after it was written"});
     }
     EXPECT_FALSE(unrelated.ended);
 }

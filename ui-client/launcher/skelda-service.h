@@ -73,6 +73,6 @@ public:
 
 // The leading decimal number of text as atol reads it (leading blanks, an optional sign,
 // digits up to the first other character; no digits give 0), saturated to the 32-bit range:
-// an absurdly large build still compares as newer than every real one, a huge installed build
-// is never downgraded, and a pid beyond the range names no process.
+// an absurdly large build still compares as newer than every real one, and a huge installed
+// build is never downgraded.
 int32_t LeadingNumber(const ustring& text);

@@ -7,7 +7,7 @@
 #include <signal.h>
 #include <spawn.h>
 
-#include "mac/mac-service.h"
+#include "mac/running-client.h"
 
 extern char** environ;
 

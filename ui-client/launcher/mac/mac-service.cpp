@@ -9,11 +9,10 @@
 #include <csignal>
 #include <cstring>
 
-#include "config/config.h"
 #include "file/file-op.h"
 #include "log/log.h"
 #include "mac/bundle-launch.h"
-#include "mac/process-start.h"
+#include "mac/running-client.h"
 
 #undef SKLOG_SOURCE_NAME
 #define SKLOG_SOURCE_NAME "mac/mac-service.cpp"
@@ -22,31 +21,6 @@ namespace {
 
 const char kComponent[] = "service_debug";
 const int kStopProbes = 5;
-
-// Whether process pid can have written the pid file at path: it runs and started no later
-// than the file was last written. A pid file outlives its client (a crash, a power cut, a
-// restart), and its number may since have gone to another program, which must never be
-// signalled: a program that started after the file was written cannot have written it.
-bool WrotePidFile(pid_t pid, const ustring& path) {
-    timespec start, written;
-    if (!ProcessStartTime(pid, &start) || !FileModifiedTime(path.c_str(), &written))
-        return false;
-    if (start.tv_sec > written.tv_sec ||
-        (start.tv_sec == written.tv_sec && start.tv_nsec > written.tv_nsec)) {
-        SKLOG(NOTE, kComponent, "process %d started after '%s' was written: not the client\n",
-              static_cast<int>(pid), path.c_str());
-        return false;
-    }
-    return true;
-}
-
-// The positive pid of the config's "pid" key whose process wrote the file at path, else 0.
-// 0 and negative ids would address whole process groups, the launcher's own among them.
-pid_t ClientPid(const Config& config, const ustring& path) {
-    const auto it = config.find("pid");
-    const pid_t pid = it == config.end() ? 0 : LeadingNumber(it->second);
-    return pid > 0 && WrotePidFile(pid, path) ? pid : 0;
-}
 
 }  // namespace
 
@@ -111,14 +85,8 @@ void MacService::StopService() {
               path.c_str());
         return;
     }
-    Config config;
-    if (config.read(path) < 0) {
-        SKLOG(NOTE, kComponent, "Failed to read pid file '%s', not exist ?\n", path.c_str());
-        return;
-    }
-    // A missing or empty value, 0, a negative number, text, and a process that did not write
-    // the file all mean "nothing to stop".
-    const pid_t pid = ClientPid(config, path);
+    // Only the user's own client that wrote the file is ever signalled (see RunningClient).
+    const pid_t pid = RunningClient(path);
     if (pid == 0)
         return;
 
@@ -143,11 +111,6 @@ int MacService::LaunchPerUserBin() {
     if (UnregisterBundle(app) != 0)
         SKLOG(ERROR, kComponent, "Cannot unregister bundle, %s", app.toUtf8().constData());
     return OpenBundle(app) ? 0 : -1;
-}
-
-pid_t RunningClient(const ustring& pid_file) {
-    Config config;
-    return config.read(pid_file) < 0 ? 0 : ClientPid(config, pid_file);
 }
 
 void MacService::PostUpgrade() {

@@ -2,8 +2,6 @@
 // The macOS upgrade service: the upgrade decision, stopping the running client through its
 // pid file, and starting the per-user client (through the platform layer in bundle-launch.h).
 
-#include <sys/types.h>
-
 #include "skelda-service.h"
 
 class MacService : public Service {
@@ -13,7 +11,7 @@ public:
     ~MacService() override;
 
     // Ends the client whose id stands in USER/ui.pid: SIGTERM, up to five probes one second
-    // apart, then SIGKILL. Only the process that wrote the file is ever signalled.
+    // apart, then SIGKILL. Only the user's own client that wrote the file is ever signalled.
     void StopService() override;
     int HandlePackageUpgrade() override;
     // LaunchPerUserBin(), logging a failure.
@@ -33,7 +31,3 @@ public:
     // A process-wide instance, built on first use. The launcher's worker owns its own one.
     static MacService* GetInstace();
 };
-
-// The id of the client that wrote the pid file at pid_file and still runs: a positive "pid"
-// whose process started no later than the file was last written. 0 for anything else.
-pid_t RunningClient(const ustring& pid_file);

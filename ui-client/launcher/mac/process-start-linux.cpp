@@ -1,6 +1,5 @@
 #include "mac/process-start.h"
 
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -21,11 +20,28 @@ bool BootTime(long long* seconds) {
     return found;
 }
 
+// The real user id: the first number of the "Uid:" line of /proc/PID/status.
+bool RealUid(pid_t pid, uid_t* owner) {
+    char path[32];
+    std::snprintf(path, sizeof path, "/proc/%d/status", static_cast<int>(pid));
+    FILE* f = std::fopen(path, "re");
+    if (!f)
+        return false;
+    char line[256];
+    bool found = false;
+    unsigned long uid = 0;
+    while (!found && std::fgets(line, sizeof line, f))
+        found = std::sscanf(line, "Uid: %lu", &uid) == 1;
+    std::fclose(f);
+    *owner = static_cast<uid_t>(uid);
+    return found;
+}
+
 }  // namespace
 
 // /proc/PID/stat gives the start in clock ticks after boot. Both that count and the boot time
 // are rounded down, so the result is never later than the true start.
-bool ProcessStartTime(pid_t pid, timespec* start) {
+bool ProcessStart(pid_t pid, time_t* started, uid_t* owner) {
     char path[32];
     std::snprintf(path, sizeof path, "/proc/%d/stat", static_cast<int>(pid));
     FILE* f = std::fopen(path, "re");
@@ -45,18 +61,8 @@ bool ProcessStartTime(pid_t pid, timespec* start) {
         std::sscanf(rest + 1, " %c %*d %*d %*d %*d %*d %*u %*u %*u %*u %*u %*u %*u %*d %*d %*d "
                               "%*d %*d %*d %llu",
                     &state, &ticks) != 2 ||
-        state == 'Z' || state == 'X' || !BootTime(&boot))
+        state == 'Z' || state == 'X' || !BootTime(&boot) || !RealUid(pid, owner))
         return false;
-    const long long hz = sysconf(_SC_CLK_TCK);
-    start->tv_sec = static_cast<time_t>(boot + static_cast<long long>(ticks / hz));
-    start->tv_nsec = static_cast<long>((ticks % hz) * (1000000000LL / hz));
-    return true;
-}
-
-bool FileModifiedTime(const char* path, timespec* mtime) {
-    struct stat st;
-    if (stat(path, &st) != 0)
-        return false;
-    *mtime = st.st_mtim;
+    *started = static_cast<time_t>(boot + static_cast<long long>(ticks / sysconf(_SC_CLK_TCK)));
     return true;
 }
