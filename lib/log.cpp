@@ -1,8 +1,11 @@
 #include "log/log.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <string>
 #include <sys/stat.h>
 #include <syslog.h>
 
@@ -26,6 +29,16 @@ namespace {
 // Kinds outside 1..3 are treated as a log file, like LOGFILE itself.
 bool IsFileKind(Logger::Type type) {
     return type != Logger::SYSLOG && type != Logger::STDOUT && type != Logger::STDERR;
+}
+
+// The log file opened for appending, unbuffered: each line leaves in one write, so a failed
+// write (a full disk) leaves nothing behind in a buffer to be written later into the middle
+// of another line.
+FILE* OpenLogFile(const ustring& path) {
+    FILE* fp = std::fopen(path.c_str(), "a");
+    if (fp)
+        std::setvbuf(fp, nullptr, _IONBF, 0);
+    return fp;
 }
 
 // Member i of the rotation set of path: "path_i".
@@ -68,7 +81,7 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& debug_file
     // nothing is counted or rotated without an open log file.
     if (path.empty())
         return -1;
-    FILE* fp = std::fopen(path.c_str(), "a");
+    FILE* fp = OpenLogFile(path);
     if (!fp)
         return -1;
     CloseLogFile();
@@ -185,7 +198,7 @@ int Logger::Rotate() {
     RotatedName(to, log_path, 0);
     if (std::rename(log_path.c_str(), to) != 0)
         return -1;
-    FILE* fp = std::fopen(log_path.c_str(), "a");
+    FILE* fp = OpenLogFile(log_path);
     if (!fp)
         return -1;
     log_fp = fp;
@@ -198,7 +211,7 @@ void Logger::ReloadLogFile() {
     if (!IsFileKind(log_type))
         return;
     CloseLogFile();
-    log_fp = std::fopen(log_path.c_str(), "a");
+    log_fp = OpenLogFile(log_path);
     if (log_fp)
         TakeFileSize();
 }
@@ -219,11 +232,25 @@ int Logger::PrintToFilePointerV(const char* format, va_list args) {
     time_t now = std::time(nullptr);
     struct tm local;
     localtime_r(&now, &local);
-    size_t stamp_len = std::strftime(stamp, sizeof stamp, "%b %d %H:%M:%S ", &local);
-    int written = static_cast<int>(std::fwrite(stamp, 1, stamp_len, log_fp));
-    written += std::vfprintf(log_fp, format, args);
-    std::fflush(log_fp);
-    return written;
+    const size_t stamp_len = std::strftime(stamp, sizeof stamp, "%b %d %H:%M:%S ", &local);
+    // The whole line is formed first and written at once.
+    va_list again;
+    va_copy(again, args);
+    const int message_len = std::vsnprintf(nullptr, 0, format, again);
+    va_end(again);
+    std::string line(stamp, stamp_len);
+    line.resize(stamp_len + static_cast<size_t>(std::max(message_len, 0)) + 1);
+    std::vsnprintf(&line[stamp_len], line.size() - stamp_len, format, args);
+    line.pop_back();  // vsnprintf's terminator
+    const size_t written = std::fwrite(line.data(), 1, line.size(), log_fp);
+    if (std::fflush(log_fp) != 0 || written != line.size()) {
+        // A line that the log file does not take (a full disk, say) goes to standard error,
+        // which on macOS still reaches the system log.
+        std::clearerr(log_fp);
+        if (log_fp != stderr)
+            std::fwrite(line.data(), 1, line.size(), stderr);
+    }
+    return static_cast<int>(written);
 }
 
 int Logger::GetFileSize(const ustring& path) {

@@ -390,24 +390,41 @@ def malformed_level_file(r):
     check(common.tree_digest(r.app) not in (None, old), "the upgrade did not happen")
 
 
-@case()
-def full_filesystem(r):
+@case("first_install_does_not_fit", "upgrade_does_not_fit", "disk_already_full")
+def full_disk(r, name):
+    """HOME/.SkeldaBackup on a 4 MiB file system of its own, in a mount namespace."""
     if subprocess.run(["unshare", "-m", "true"], capture_output=True).returncode != 0:
         print("SKIPPED: mount namespaces are not allowed here")
         return
-    old = r.install_old()
-    with open(os.path.join(r.trees["new"], "Contents/Resources/big.bin"), "wb") as f:
-        f.write(os.urandom(8 << 20))
+    old = None if name == "first_install_does_not_fit" else r.install_old()
+    if name != "disk_already_full":
+        with open(os.path.join(r.trees["new"], "Contents/Resources/big.bin"), "wb") as f:
+            f.write(os.urandom(8 << 20))
     exe, saved, after = r.bundle(), f"{r.work}/saved", f"{r.work}/after"
+    os.makedirs(r.user, exist_ok=True)
     shutil.copytree(r.user, saved, symlinks=True)
     os.makedirs(after)
+    fill = 'cat /dev/zero > "$HOME/.SkeldaBackup/filler" 2>/dev/null || true; ' \
+        if name == "disk_already_full" else ""
     script = (f'set -e; mount -t tmpfs -o size=4m tmpfs "$HOME/.SkeldaBackup"; '
-              f'cp -a "{saved}/." "$HOME/.SkeldaBackup/"; "{exe}"; '
-              f'cp -a "$HOME/.SkeldaBackup/." "{after}/"')
-    subprocess.run(["unshare", "-m", "--propagation", "private", "sh", "-c", script],
-                   env=r.env(), stdout=subprocess.DEVNULL, check=True, timeout=300)
-    check(ROLLBACK in open(f"{after}/log/launcher.log").read(), "no rollback logged")
-    check(common.tree_digest(f"{after}/Skelda.app") == old, "the old application is not back")
+              f'cp -a "{saved}/." "$HOME/.SkeldaBackup/"; {fill}"{exe}"; '
+              f'rm -f "$HOME/.SkeldaBackup/filler"; cp -a "$HOME/.SkeldaBackup/." "{after}/"')
+    with tempfile.TemporaryFile() as err:  # not a pipe: the client started inherits it
+        subprocess.run(["unshare", "-m", "--propagation", "private", "sh", "-c", script],
+                       env=r.env(), stdout=subprocess.DEVNULL, stderr=err, check=True,
+                       timeout=300)
+        out = err.seek(0) or err.read().decode(errors="replace")
+    # Lines that the full log file did not take reach standard error, whole.
+    said = open(f"{after}/log/launcher.log", errors="replace").read() + out
+    check("failed: 'Write failed: No space left on device'" in said, said[-3000:])
+    if old:
+        check(ROLLBACK + "\n" in said, "no rollback said")
+        check(common.tree_digest(f"{after}/Skelda.app") == old, "the old application is not back")
+    else:
+        check("Failed to launch Skelda UI\n" in said, "a client was started")
+        check(not os.path.exists(f"{after}/Skelda.app"), "the partial application is left")
+    if name == "disk_already_full":
+        check("[ERROR] launcher.cpp(" in out, f"stderr lacks the failure: {out[-2000:]}")
 
 
 def main():

@@ -4,8 +4,11 @@
 #include <archive_entry.h>
 #include <locale.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <memory>
+#include <string>
 
 #include "log/log.h"
 #include "notify-adapter.h"
@@ -70,9 +73,16 @@ private:
     locale_t saved_ = static_cast<locale_t>(nullptr);
 };
 
-const char* ErrorText(archive* a) {
+// libarchive's text for the last failure of a, followed by the system's reason where there is
+// one: a full disk comes as "Write failed" with ENOSPC. EILSEQ is libarchive's code for
+// damaged input, whose text already says all.
+std::string ErrorText(archive* a) {
     const char* text = archive_error_string(a);
-    return text ? text : "";
+    std::string out = text ? text : "";
+    const int err = archive_errno(a);
+    if (err > 0 && err != EILSEQ)
+        out += (out.empty() ? "" : ": ") + std::string(std::strerror(err));
+    return out;
 }
 
 // The older name of archive_read_support_filter_all, kept by the extraction path on
@@ -101,7 +111,7 @@ Reader OpenHeaderPass(const ustring& dest_dir, const ustring& archive_path) {
     if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), kBlockSize) !=
         ARCHIVE_OK) {
         SKLOG(ERROR, kComponent, "archive_read_open_filename failed: '%s'\n",
-              ErrorText(reader.get()));
+              ErrorText(reader.get()).c_str());
         return nullptr;
     }
     return reader;
@@ -173,7 +183,7 @@ int Extractor::Extract() {
     if (archive_read_open_filename(reader.get(), archive_path.c_str_utf8(), kBlockSize) !=
         ARCHIVE_OK) {
         SKLOG(ERROR, kComponent, "Failed to read file '%s' ('%s')\n",
-              archive_path.c_str_utf8(), ErrorText(reader.get()));
+              archive_path.c_str_utf8(), ErrorText(reader.get()).c_str());
         return -1;
     }
 
@@ -185,7 +195,7 @@ int Extractor::Extract() {
         // Warnings count as failures: a package must read cleanly.
         if (r != ARCHIVE_OK) {
             SKLOG(ERROR, kComponent, "archive_read_next_header failed: '%s'\n",
-                  ErrorText(reader.get()));
+                  ErrorText(reader.get()).c_str());
             return -1;
         }
         const char* name = archive_entry_pathname(entry);
@@ -200,14 +210,15 @@ int Extractor::Extract() {
         archive_entry_set_pathname(entry, target.c_str_utf8());
 
         if (archive_read_extract2(reader.get(), entry, writer.get()) != ARCHIVE_OK) {
+            // libarchive moves the writer's failure onto the reader here.
             SKLOG(ERROR, kComponent, "archive_read_extract2 failed: '%s'\n",
-                  ErrorText(writer.get()));
+                  ErrorText(reader.get()).c_str());
             return -1;
         }
         Notify_Adapter::GetInstance()->UpdateProgress(total, n);
         if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
             SKLOG(ERROR, kComponent, "archive_write_finish_entry failed: '%s'\n",
-                  ErrorText(writer.get()));
+                  ErrorText(writer.get()).c_str());
             return -1;
         }
     }
@@ -227,12 +238,12 @@ int Extractor::copy_data(archive* reader, archive* writer) {
             return 0;
         if (r != ARCHIVE_OK) {
             SKLOG(ERROR, kComponent, "archive_read_data_block failed: '%s'\n",
-                  ErrorText(reader));
+                  ErrorText(reader).c_str());
             return -1;
         }
         if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
             SKLOG(ERROR, kComponent, "archive_write_data_block failed: '%s'\n",
-                  ErrorText(writer));
+                  ErrorText(writer).c_str());
             return -1;
         }
     }

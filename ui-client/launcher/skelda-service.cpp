@@ -146,6 +146,9 @@ int Service::PrepareUserEnv() {
         if (backup.empty()) {
             SKLOG(ERROR, kComponent,
                   "Failed to extract package, and no old installation to rollback\n");
+            // A partial client would be started now and read as current on every later run
+            // (and, on a full disk, keep the disk full): nothing of it stays.
+            FSRemove(app, false);
             return -1;
         }
         SKLOG(ERROR, kComponent, "Failed to extract package, rollback to old installation\n");
