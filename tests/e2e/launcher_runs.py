@@ -355,6 +355,9 @@ VERSIONS = {  # APP's INFO (None: none), its client, the shipped INFO (None: non
     "forty_digit_target": (info("2147483646"), True, info("1234567890" * 4), True),
     "negative_source_no_target_info": (info("-1"), True, None, True),
     "target_info_binary": (info("100"), True, bytes(range(256)) * 64, False),
+    # a version file that cannot be read counts as build 0, with a warning naming it
+    "target_info_unreadable": (info("100"), True, "mode 000, read by nobody", False),
+    "target_info_folder": (info("100"), True, "a folder", False),
 }
 
 
@@ -363,16 +366,29 @@ def upgrade_decision(r, name):
     source, client, target, upgrades = VERSIONS[name]
     r.install_old()
     exe = r.bundle()
-    for path, content in ((f"{r.app}/Contents/Resources/INFO", source),
-                          (f"{r.work}/New.app/Contents/Resources/INFO", target)):
-        os.remove(path)
-        if content is not None:
-            with open(path, "wb") as f:
-                f.write(content)
+    target_info = f"{r.work}/New.app/Contents/Resources/INFO"
+    for path, content in ((f"{r.app}/Contents/Resources/INFO", source), (target_info, target)):
+        if content == "a folder":
+            os.remove(path)
+            os.makedirs(path)
+        elif isinstance(content, str):
+            os.chmod(path, 0)
+        else:
+            os.remove(path)
+            if content is not None:
+                with open(path, "wb") as f:
+                    f.write(content)
     if not client:
         os.remove(f"{r.app}/Contents/MacOS/skelda-backup-ui")
     old = common.tree_digest(r.app)
-    r.run(exe)
+    nobody = "nobody" in str(target)
+    if nobody:
+        os.chmod(r.work, 0o755)
+        subprocess.run(["chown", "-R", f"{NOBODY}:{NOBODY}", r.home], check=True)
+    r.run(exe, user=NOBODY if nobody else None)
+    if isinstance(target, str):
+        r.expect(f"[WARNING] skelda-service.cpp(", f"cannot read version file '{target_info}': "
+                 + ("Permission denied" if nobody else "not a regular file") + "\n")
     r.expect(READY if upgrades else "no need to upgrade")
     if upgrades:
         expect_package(r)

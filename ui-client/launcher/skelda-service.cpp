@@ -10,9 +10,15 @@
 #include <QString>
 #include <QVariant>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 
 #include "extractor.h"
@@ -28,9 +34,29 @@ ustring FromQString(const QString& text) {
     return ustring(text.toUtf8().constData());
 }
 
+// Whether the version file at path can be read. One that is there but cannot be (no read
+// permission, a FIFO or a folder in its place) reads as a file without keys, as a missing one
+// does; unlike a missing one it is worth a warning: the upgrade it hides is skipped for good.
+bool CanReadVersionFile(const ustring& path) {
+    const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0 && errno == ENOENT)
+        return false;
+    struct stat st;
+    const char* why = fd < 0 || fstat(fd, &st) != 0 ? std::strerror(errno)
+                      : !S_ISREG(st.st_mode)        ? "not a regular file"
+                                                    : nullptr;
+    if (fd >= 0)
+        close(fd);
+    if (why)
+        SKLOG(WARNING, kComponent, "cannot read version file '%s': %s\n", path.c_str(), why);
+    return !why;
+}
+
 // Sets each field of info whose key is present in the "Version" group of the ini file at
 // path; the other fields keep their values. A missing file simply has no keys.
 void ReadVersionFile(const ustring& path, VerInfo& info) {
+    if (!CanReadVersionFile(path))
+        return;
     QSettings settings(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
     settings.beginGroup(QStringLiteral("Version"));
     const struct {
