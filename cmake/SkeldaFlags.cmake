@@ -23,7 +23,12 @@ if(_san)
 endif()
 
 if(SKELDA_FUZZ)
-  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  # Apple's clang (compiler id AppleClang) ships without the libFuzzer runtime, so the link
+  # would fail later with a less telling message; LLVM's own clang has it.
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "AppleClang")
+    message(FATAL_ERROR "SKELDA_FUZZ needs LLVM's clang, which has libFuzzer; Apple's has not: "
+      "configure with CC=$(brew --prefix llvm)/bin/clang CXX=$(brew --prefix llvm)/bin/clang++")
+  elseif(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     message(FATAL_ERROR "SKELDA_FUZZ needs clang: configure with CC=clang CXX=clang++")
   endif()
   target_compile_options(skelda_flags INTERFACE -fsanitize=fuzzer-no-link)
