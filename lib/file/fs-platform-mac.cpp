@@ -9,6 +9,11 @@
 
 #include <cstring>
 
+// The FSRef calls are deprecated since macOS 10.8 yet still give what is needed here: the
+// on-disk spelling of a path, links in the parents resolved and the leaf link optionally not.
+// Only their deprecation warning is silenced, and only here, so that -Werror builds pass.
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wdeprecated-declarations"
 int StoredSpelling(const char* path, bool follow_leaf, char* buf, size_t size) {
     std::memset(buf, 0, size);
     FSRef ref;
@@ -21,6 +26,7 @@ int StoredSpelling(const char* path, bool follow_leaf, char* buf, size_t size) {
     return static_cast<int>(FSRefMakePath(&ref, reinterpret_cast<UInt8*>(buf),
                                           static_cast<UInt32>(size)));
 }
+#pragma clang diagnostic pop
 
 int FileSystemTypeName(const char* path, std::string& name) {
     struct statfs fs;

@@ -3,6 +3,13 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <locale.h>
+// The per-thread locale calls below (newlocale, uselocale, duplocale, freelocale) are declared
+// in <locale.h> on Linux and in <xlocale.h> on macOS; Linux has no <xlocale.h>. The one test of
+// the platform outside the platform layer: a pair of platform files for a single include would
+// be more to keep, and the fuzzer compiles this file on its own.
+#if defined(__APPLE__)
+#include <xlocale.h>
+#endif
 
 #include <cerrno>
 #include <cstdio>
