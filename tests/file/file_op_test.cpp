@@ -1,7 +1,5 @@
 // Path strings, records, existence, listings, links, folders, copying, moving and removing.
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,9 +7,7 @@
 #include <filesystem>
 #include <map>
 
-#include "file/file-op.h"
-#include "log/log.h"
-#include "temp_dir.h"
+#include "file_op_fixture.h"
 
 namespace {
 
@@ -32,34 +28,6 @@ TEST(FilePath, HelpersGiveTheTableResult) {
         EXPECT_EQ(got, r.expected) << r.op << "(" << r.a << ", " << r.b << ")";
     }
 }
-
-// real/{data (5 bytes), folder, dangling link}, alias -> real; file_op_debug logs into op.log.
-class FileOp : public TempDirTest {
-protected:
-    void SetUp() override {
-        TempDirTest::SetUp();
-        Logger::log_level.clear();
-        WriteFile(path("launcher.debug"), "file_op_debug=7\n");
-        ASSERT_EQ(Logger::Initialize(Logger::LOGFILE, U("op.log"), U("launcher.debug"), 50), 0);
-        real_ = std::filesystem::canonical(dir());  // any link in TMPDIR resolved
-        MakeDirs(path("real/folder"));
-        WriteFile(path("real/data"), "12345");
-        ASSERT_EQ(symlink("real", path("alias").c_str()), 0);
-        ASSERT_EQ(symlink("no-such-target", path("real/dangling").c_str()), 0);
-    }
-    void TearDown() override { Logger::Destroy(), TempDirTest::TearDown(); }
-    ustring U(const std::string& rel) const { return path(rel).c_str(); }
-    std::string R(const std::string& rel) const { return real_ + "/" + rel; }
-    // Whether a line "<16-byte time>[level] <source>(<line>): message" was logged.
-    bool Logged(const std::string& level, const std::string& message) const {
-        const std::string log = "\n" + ReadFile(path("op.log")), tail = "): " + message;
-        for (size_t at = log.find(tail); at != std::string::npos; at = log.find(tail, at + 1))
-            if (log.compare(log.rfind('\n', at) + 17, level.size() + 3, "[" + level + "] ") == 0)
-                return true;
-        return false;
-    }
-    std::string real_;
-};
 
 TEST_F(FileOp, RecordHasTheStoredSpellingAndExistenceCanWantIt) {
     const struct { const char *arg, *stored; int type; int64_t size; } rows[] = {  // size -1: any
@@ -191,29 +159,6 @@ TEST_F(FileOp, RenameAndRemoveTellFailuresApartAndNeverFollowLinks) {
     EXPECT_TRUE(ReadFile(path("dst/data")) == "12345" && !Exists(path("real")));
     EXPECT_TRUE(FSRemove(U("dst"), false) == 0 && !Exists(path("dst")));
     EXPECT_TRUE(FSRemove(U("dst"), false) == 0 && FSRemove("", false) == -1) << "nothing there";
-}
-
-// Onto a small tmpfs: a full file system, and moves between two file systems.
-TEST_F(FileOp, AcrossFileSystemsTreesArriveCompleteLinksStayAndAFullDiskIsToldApart) {
-    MakeDirs(path("mnt"));
-    if (unshare(CLONE_NEWNS) != 0 || mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
-        mount("tmpfs", path("mnt").c_str(), "tmpfs", 0, "size=1m") != 0)
-        GTEST_SKIP() << "no tmpfs here: " << strerror(errno);
-    WriteFile(path("big"), std::string(2 * 1024 * 1024, 'z'));
-    EXPECT_EQ(FSCopy(U("big"), U("mnt/big"), true), -2);
-    EXPECT_TRUE(Logged("ERROR", "CopyFile: write: No space left on device (28)\n"));
-    EXPECT_TRUE(Exists(path("big")) && Exists(path("mnt/big"))) << "source and partial copy";
-    ASSERT_EQ(unlink(path("mnt/big").c_str()), 0);
-    MakeDirs(path("real/folder/deep"));
-    WriteFile(path("real/folder/mid"), std::string(100000, 'm'));
-    ASSERT_EQ(unlink(path("real/dangling").c_str()), 0);  // links are not moved across
-    ASSERT_EQ(FSRename(U("real"), U("mnt/dst"), false), 0);
-    EXPECT_TRUE(!Exists(path("real")) && std::filesystem::is_directory(path("mnt/dst/folder/deep")));
-    EXPECT_TRUE(ReadFile(path("mnt/dst/data")) == "12345" &&
-                ReadFile(path("mnt/dst/folder/mid")) == std::string(100000, 'm'));
-    EXPECT_EQ(FSRename(U("alias"), U("mnt/link"), false), 0);
-    EXPECT_TRUE(Exists(path("alias")) && !Exists(path("mnt/link")));
-    umount2(path("mnt").c_str(), MNT_DETACH);
 }
 
 }  // namespace
