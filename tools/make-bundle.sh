@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Assembles a root installation of Skelda Backup as a release does:
 #
+#   <Name>.app/Contents/Info.plist                      from ui-client/launcher/Info.plist.in
 #   <Name>.app/Contents/MacOS/skelda-launcher           the launcher
 #   <Name>.app/Contents/Resources/INFO                  version file of the shipped build
 #   <Name>.app/Contents/Resources/package/skelda.vpk    the client, packed with bsdtar
@@ -45,7 +46,8 @@ done
 case "$out" in *.app) ;; *) echo "make-bundle: --out must end in .app" >&2; exit 1 ;; esac
 case "$compress" in gzip) tar_z=(-z) ;; none) tar_z=() ;; *) usage ;; esac
 IFS=. read -r major minor build overlay <<<"$version"
-[[ "$build" =~ ^[0-9]+$ ]] || { echo "make-bundle: bad version '$version'" >&2; exit 1; }
+[[ "$version" =~ ^[0-9]+\.[0-9]+\.[0-9]+(\.[0-9]+)?$ ]] ||
+  { echo "make-bundle: bad version '$version'" >&2; exit 1; }
 
 write_info() {  # the Qt ini version file read by the launcher
   mkdir -p "$(dirname "$1")"
@@ -58,6 +60,10 @@ rm -rf "$out"
 res="$out/Contents/Resources"
 mkdir -p "$out/Contents/MacOS" "$res/package" "$res/images" "$out/Contents/Frameworks/plugins"
 cp "$launcher" "$out/Contents/MacOS/skelda-launcher"
+# The same Info.plist as CMake's macOS bundle: shown version MAJOR.MINOR.BUILD, bundle build BUILD.
+sed -e "s/\${MACOSX_BUNDLE_SHORT_VERSION_STRING}/$major.$minor.$build/" \
+    -e "s/\${MACOSX_BUNDLE_BUNDLE_VERSION}/$build/" \
+    "$here/../ui-client/launcher/Info.plist.in" >"$out/Contents/Info.plist"
 write_info "$res/INFO"
 cp "$here/icon/ico_72_skelda.png" "$res/images/ico_72_skelda.png"
 
@@ -101,5 +107,7 @@ trap 'rm -rf "$stage" "$list"' EXIT
 (cd "$stage" && find . -mindepth 1 ! -path ./Contents/Resources/INFO) |
   sed 's|^\./||' | LC_ALL=C sort >"$list"
 echo Contents/Resources/INFO >>"$list"
-bsdtar -c "${tar_z[@]}" -n -f "$res/package/skelda.vpk" -C "$stage" -T "$list"
+# On macOS, tar would add an AppleDouble "._" entry for every file with extended attributes or
+# ACLs; the package must hold the client's own files only.
+COPYFILE_DISABLE=1 bsdtar -c "${tar_z[@]}" -n -f "$res/package/skelda.vpk" -C "$stage" -T "$list"
 echo "bundle: $out (build $build, $(wc -l <"$list") package entries)"

@@ -10,6 +10,7 @@ import fcntl
 import glob
 import io
 import os
+import plistlib
 import shutil
 import subprocess
 import sys
@@ -172,6 +173,10 @@ def three_runs_then_an_upgrade_leave_one_client(r):
     r.run(exe)
     bundle = os.path.dirname(os.path.dirname(os.path.dirname(exe)))
     check(r.stdout == f"lib path = '{bundle}/Contents/Frameworks/plugins'\n", r.stdout)
+    plist = plistlib.load(open(f"{bundle}/Contents/Info.plist", "rb"))
+    check({"CFBundleIdentifier", "CFBundleName", "LSMinimumSystemVersion", "NSHighResolutionCapable",
+           "NSPrincipalClass"} <= plist.keys() and plist["CFBundleExecutable"] == os.path.basename(exe)
+          and (plist["CFBundleShortVersionString"], plist["CFBundleVersion"]) == (OLD, "100"), plist)
     first = r.client()
     check(os.readlink(f"/proc/{first}/cwd") == r.home, "the client does not run in HOME")
     order = [RUNNING, "source does not exist", "Source version: ('', '')",
