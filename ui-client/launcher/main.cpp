@@ -45,9 +45,9 @@ int main(int argc, char* argv[]) {
 
     QTranslator translator(nullptr);
     const QString code = VarnLocale::getInstance()->getDefaultLanguage();
-    translator.load(QStringLiteral(":/") + code + QStringLiteral(".qm"), QString(), QString(),
-                    QString());
-    if (!translator.isEmpty())
+    if (translator.load(QStringLiteral(":/") + code + QStringLiteral(".qm"), QString(), QString(),
+                        QString()) &&
+        !translator.isEmpty())
         QCoreApplication::installTranslator(&translator);
 
     StrTable::InitStrTable();
