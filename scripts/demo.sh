@@ -5,10 +5,11 @@
 # stops the client started by the first run. Prints the per-user tree, the log lines and
 # the client that was started. Headless (Qt's offscreen platform) unless DISPLAY is set.
 #   scripts/demo.sh            (SKELDA_BUILD_DIR picks another build folder than build/)
+#   scripts/demo.sh --qt 6     the launcher built with Qt 6, in build-qt6/
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-launcher=$(scripts/build-launcher.sh)
+launcher=$(scripts/build-launcher.sh "$@")
 
 [ -n "${DISPLAY:-}" ] || export QT_QPA_PLATFORM=offscreen
 work=$(mktemp -d)

@@ -1,11 +1,25 @@
 #!/usr/bin/env bash
 # Installs every Debian 12 package the project needs to build, test, fuzz,
 # benchmark and take screenshots. Quick and silent when all is there.
+#   scripts/install-deps.sh [--qt 5|6]    the Qt to build with (default 5)
 set -euo pipefail
+
+qt=5
+if [ $# -gt 0 ]; then
+  [ "$1" = --qt ] && [ $# -eq 2 ] || { echo "usage: $0 [--qt 5|6]" >&2; exit 2; }
+  qt="$2"
+fi
+case "$qt" in
+  5) qt_packages=(qtbase5-dev qttools5-dev qttools5-dev-tools libqt5network5) ;;
+  # qt6-qpa-plugins holds the platform plug-ins (offscreen, xcb): only recommended by
+  # libqt6gui6, so --no-install-recommends would leave it out.
+  6) qt_packages=(qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools qt6-qpa-plugins) ;;
+  *) echo "usage: $0 [--qt 5|6]" >&2; exit 2 ;;
+esac
 
 packages=(
   build-essential cmake ninja-build pkg-config git
-  qtbase5-dev qttools5-dev qttools5-dev-tools libqt5network5
+  "${qt_packages[@]}"
   libarchive-dev libarchive-tools zlib1g-dev
   libicu-dev
   libgtest-dev libgmock-dev libbenchmark-dev
