@@ -67,8 +67,14 @@ sed -e "s/\${MACOSX_BUNDLE_SHORT_VERSION_STRING}/$major.$minor.$build/" \
 write_info "$res/INFO"
 cp "$here/icon/ico_72_skelda.png" "$res/images/ico_72_skelda.png"
 
-plugins=$(qtpaths --plugin-dir 2>/dev/null || true)
-[ -d "$plugins/platforms" ] || plugins=/usr/lib/x86_64-linux-gnu/qt5/plugins
+# The plug-ins of the Qt that the launcher links (Qt 5 when it links none): a Qt 6 launcher
+# aborts on Qt 5's. Debian names Qt 6's query tool qtpaths6.
+qt_major=$(readelf -d "$launcher" 2>/dev/null | sed -n 's/.*\[libQt\([0-9]*\)Core\.so.*/\1/p')
+qt_major=${qt_major:-5}
+qtpaths=qtpaths
+[ "$qt_major" = 5 ] || qtpaths=qtpaths$qt_major
+plugins=$($qtpaths --plugin-dir 2>/dev/null || true)
+[ -d "$plugins/platforms" ] || plugins=/usr/lib/x86_64-linux-gnu/qt$qt_major/plugins
 for kind in platforms xcbglintegrations; do
   if [ -d "$plugins/$kind" ]; then cp -R "$plugins/$kind" "$out/Contents/Frameworks/plugins/"; fi
 done
