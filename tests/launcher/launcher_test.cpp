@@ -111,6 +111,13 @@ TEST_F(LauncherTest, FirstInstallationSurvivesCloseRequestsAndEndsReady) {
     EXPECT_TRUE(ClientStarted());
 }
 
+// Qt 6's quit() gives up while a visible window refuses to close, as this dialog always does.
+TEST_F(LauncherTest, RunEndsWhileAWindowRefusesToClose) {
+    ProcessingProgressDialog refusing;
+    refusing.show();
+    EXPECT_EQ(Run(), 0) << "the event loop did not end";
+}
+
 TEST_F(LauncherTest, CurrentInstallationNeverShowsTheDialog) {
     const std::string app = home() + "/.SkeldaBackup/Skelda.app/Contents";
     MakeDirs(app + "/MacOS");

@@ -106,7 +106,9 @@ void Launcher::LaunchDone() {
     dialog->hide();
     worker->QuitThread();
     worker->JoinThread();
-    QCoreApplication::quit();
+    // exit(), not quit(): Qt 6's quit() first asks every window to close and is ignored while
+    // a visible one refuses, as the dialog always does. The run ends here whatever is shown.
+    QCoreApplication::exit(0);
 }
 
 void Launcher::UpdateProgress(int total, int steps) {
