@@ -9,14 +9,18 @@
 #      application, extract the package, remove the backup) against `bsdtar -xf` of the same
 #      package, and against the same steps done with the tools (list, move aside, extract,
 #      remove).
-#   bench/launcher/run.sh [BUILD_DIR] [RUNS]      (defaults: build, 25)
+#   bench/launcher/run.sh [BUILD_DIR[,BUILD_DIR...]] [RUNS]      (defaults: build, 25)
+# With several build folders (build,build-qt6: Qt 5 and Qt 6), case 1 runs the launchers and
+# bare programs of all of them interleaved; case 2 uses the first folder.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 root=$(pwd)
-build="${1:-build}" runs="${2:-25}"
-cmake --build "$build" --target skelda-launcher launcher_bench_bare_qt >/dev/null
-launcher="$root/$build/ui-client/launcher/skelda-launcher"
-bare="$root/$build/bench/launcher/launcher_bench_bare_qt"
+IFS=, read -r -a builds <<<"${1:-build}"
+runs="${2:-25}"
+for build in "${builds[@]}"; do
+  cmake --build "$build" --target skelda-launcher launcher_bench_bare_qt >/dev/null
+done
+launcher="$root/${builds[0]}/ui-client/launcher/skelda-launcher"
 
 export QT_QPA_PLATFORM=offscreen
 work=$(mktemp -d)
@@ -47,18 +51,25 @@ ms() { awk -v us="$1" 'BEGIN { printf "%.1f", us / 1000 }'; }
 echo "machine: $(nproc) cores, $(sed -n 's/^model name\t*: //p' /proc/cpuinfo | head -n 1)"
 
 # 1. No upgrade needed: install once, then time the runs that find the build current.
-tools/make-bundle.sh --launcher "$launcher" --client "$client" --version 1.0.100 \
-  --out "$work/Current.app" >/dev/null
-"$work/Current.app/Contents/MacOS/skelda-launcher" >/dev/null 2>&1
-# Interleaved, so that a change in the machine's load hits both sides alike.
-for _ in $(seq 1 "$runs"); do
-  measure "$work/Current.app/Contents/MacOS/skelda-launcher" >>"$work/launcher"
-  measure "$bare" >>"$work/bare"
+for i in "${!builds[@]}"; do
+  tools/make-bundle.sh --launcher "$root/${builds[$i]}/ui-client/launcher/skelda-launcher" \
+    --client "$client" --version 1.0.100 --out "$work/Current$i.app" >/dev/null
+  "$work/Current$i.app/Contents/MacOS/skelda-launcher" >/dev/null 2>&1
 done
-l_us=$(median "$work/launcher" 1) l_kb=$(median "$work/launcher" 2)
-q_us=$(median "$work/bare" 1) q_kb=$(median "$work/bare" 2)
-echo "no upgrade:  launcher $(ms "$l_us") ms, ${l_kb} KiB | bare Qt $(ms "$q_us") ms, ${q_kb} KiB |" \
-     "time $(ratio "$l_us" "$q_us")x (target 1.3x), memory $(ratio "$l_kb" "$q_kb")x (target 1.2x)"
+# Interleaved, so that a change in the machine's load hits every side alike.
+for _ in $(seq 1 "$runs"); do
+  for i in "${!builds[@]}"; do
+    measure "$work/Current$i.app/Contents/MacOS/skelda-launcher" >>"$work/launcher$i"
+    measure "$root/${builds[$i]}/bench/launcher/launcher_bench_bare_qt" >>"$work/bare$i"
+  done
+done
+for i in "${!builds[@]}"; do
+  l_us=$(median "$work/launcher$i" 1) l_kb=$(median "$work/launcher$i" 2)
+  q_us=$(median "$work/bare$i" 1) q_kb=$(median "$work/bare$i" 2)
+  echo "no upgrade, ${builds[$i]}:  launcher $(ms "$l_us") ms, ${l_kb} KiB |" \
+       "bare Qt $(ms "$q_us") ms, ${q_kb} KiB | time $(ratio "$l_us" "$q_us")x (target 1.3x)," \
+       "memory $(ratio "$l_kb" "$q_kb")x (target 1.2x)"
+done
 
 # 2. Full upgrade of 3,000 entries: 30 folders of 99 files of 1 KiB, plus the bundle's own
 # folders and version file (the tool prints the count).
