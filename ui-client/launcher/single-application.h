@@ -17,7 +17,7 @@ class SingleApplication : public QApplication {
     Q_OBJECT
 
 public:
-    // `gui` is kept for the shape of the call sites; a Qt 5 QApplication always has a GUI.
+    // `gui` is kept for the shape of the call sites; a QApplication always has a GUI.
     SingleApplication(int& argc, char** argv, bool gui = true);
     ~SingleApplication() override;
 
