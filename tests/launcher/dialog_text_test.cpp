@@ -38,20 +38,15 @@ bool AllDrawn(const QString& text, const QFont& font) {
     return glyphs > 0 || text.isEmpty();
 }
 
-class DialogText : public ::testing::TestWithParam<const char*> {
-protected:
-    // The dialog's font takes its size from the application's.
-    static void SetUpTestSuite() {
-        QFont font = QApplication::font();
-        font.setPixelSize(kTextPixels);
-        QApplication::setFont(font);
-    }
-};
+class DialogText : public ::testing::TestWithParam<const char*> {};
 
 TEST_P(DialogText, EveryTextIsDrawnAndFits) {
     QTranslator translator;
     ASSERT_TRUE(translator.load(QStringLiteral(":/%1.qm").arg(GetParam())));
     QCoreApplication::installTranslator(&translator);
+    QFont font = QApplication::font();  // the dialog's font takes its size from this one
+    font.setPixelSize(kTextPixels);
+    QApplication::setFont(font);
     ProcessingProgressDialog dialog;
     dialog.show();  // lays out the label inside the fixed width
     auto* label = dialog.findChild<QLabel*>();
