@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <QSettings>
 #include <QString>
 #include <QVariant>
@@ -53,32 +52,18 @@ bool CanReadVersionFile(const ustring& path) {
     return !why;
 }
 
-// Release tooling writes version files in ASCII. Qt 5 reads other bytes as Latin-1 and Qt 6
-// as UTF-8, which drops a byte-order mark that starts a key or a value, so the two would find
-// different builds in such a file. A byte-order mark that opens the file both skip.
-bool IsAsciiText(QByteArray bytes) {
-    if (bytes.startsWith("\xEF\xBB\xBF"))
-        bytes.remove(0, 3);
-    return std::all_of(bytes.cbegin(), bytes.cend(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 // Sets each field of info whose key is present in the "Version" group of the ini file at
-// path; the other fields keep their values. A missing file, one that cannot be read and one
-// that is not ASCII text have no keys.
+// path; the other fields keep their values. A missing file and one that cannot be read have
+// no keys. The file is read as UTF-8 under every Qt: Qt 6 knows no other encoding for ini
+// files, while Qt 5 would read bytes beyond ASCII as Latin-1 and so could find another build
+// in the same file (a byte-order mark before the number, say).
 void ReadVersionFile(const ustring& path, VerInfo& info) {
     if (!CanReadVersionFile(path))
         return;
-    const QString name = QString::fromUtf8(path.c_str());
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    if (!IsAsciiText(file.readAll())) {
-        SKLOG(INFO, kComponent, "version file '%s' is not ASCII text, read as empty\n",
-              path.c_str());
-        return;
-    }
-    QSettings settings(name, QSettings::IniFormat);
+    QSettings settings(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+    settings.setIniCodec("UTF-8");
+#endif
     settings.beginGroup(QStringLiteral("Version"));
     const struct {
         const char* key;
