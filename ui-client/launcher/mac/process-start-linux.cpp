@@ -20,11 +20,16 @@ bool BootTime(long long* seconds) {
     return found;
 }
 
+// /proc/PID/name, open for reading; null when there is no such process.
+FILE* OpenProcFile(pid_t pid, const char* name) {
+    char path[64];
+    std::snprintf(path, sizeof path, "/proc/%d/%s", static_cast<int>(pid), name);
+    return std::fopen(path, "re");
+}
+
 // The real user id: the first number of the "Uid:" line of /proc/PID/status.
 bool RealUid(pid_t pid, uid_t* owner) {
-    char path[32];
-    std::snprintf(path, sizeof path, "/proc/%d/status", static_cast<int>(pid));
-    FILE* f = std::fopen(path, "re");
+    FILE* f = OpenProcFile(pid, "status");
     if (!f)
         return false;
     char line[256];
@@ -42,9 +47,7 @@ bool RealUid(pid_t pid, uid_t* owner) {
 // /proc/PID/stat gives the start in clock ticks after boot. Both that count and the boot time
 // are rounded down, so the result is never later than the true start.
 bool ProcessStart(pid_t pid, time_t* started, uid_t* owner) {
-    char path[32];
-    std::snprintf(path, sizeof path, "/proc/%d/stat", static_cast<int>(pid));
-    FILE* f = std::fopen(path, "re");
+    FILE* f = OpenProcFile(pid, "stat");
     if (!f)
         return false;
     char stat[1024];
