@@ -3,15 +3,22 @@
 
 Copies the checkout (tracked and untracked, unignored files as they stand) to a temporary
 folder, builds it once, then applies one small fault at a time to the product sources
-(lib/, include/, ui-client/): a flipped comparison or logical operator, a constant changed
-by one, a swapped returned result, a negated condition, a deleted call. After each fault
-it rebuilds incrementally and runs the tests without the slow label. A fault is caught when
-a test fails or the run hangs; a fault that does not compile is replaced by the next one in
-the seeded order. Prints the share caught and the faults that survive, by file and line.
+(lib/, include/, ui-client/) that this build compiles: a flipped comparison or logical
+operator, a constant changed by one, a swapped returned result, a negated condition, a
+deleted call. After each fault it rebuilds incrementally and runs the tests without the
+slow label: the unit cases first, the end-to-end ones only when those pass. A fault is
+caught when a test fails or the run hangs; a fault that does not compile is replaced by the
+next one in the seeded order. Prints the share caught and the faults that survive, by file
+and line.
 
-    python3 scripts/mutation.py --seed 13 --faults 80
+    python3 scripts/mutation.py --seed 17 --faults 120
+    python3 scripts/mutation.py --seed 17 --faults 120 --sanitize address --survivors-of LOG
+
+The second form tries again, under AddressSanitizer + UBSan, only the faults that a first
+run's output LOG lists as survivors: the leaks and over-reads that only a sanitizer sees.
 """
 import argparse
+import json
 import os
 import random
 import re
@@ -24,6 +31,7 @@ import time
 
 ROOTS = ("lib/", "include/", "ui-client/")
 SKIP = re.compile(r"-mac\.cpp$|/translations/")  # not built here, or not code
+SURVIVOR = re.compile(r"^  (\S+?):(\d+): (.*?): ")  # a line of the "survived:" list
 SWAPS = [
     ("==", "!="), ("!=", "=="), ("<=", "<"), (">=", ">"), (" < ", " <= "), (" > ", " >= "),
     ("&&", "||"), ("||", "&&"),
@@ -119,7 +127,14 @@ def main():
     ap.add_argument("--seed", type=int, default=13)
     ap.add_argument("--faults", type=int, default=80)
     ap.add_argument("--work", help="folder for the copy (default: a new temporary folder)")
+    ap.add_argument("--sanitize", choices=("address", "thread"), help="a sanitized build")
+    ap.add_argument("--survivors-of", metavar="LOG",
+                    help="try only the faults that this earlier run's output lists as survivors")
     args = ap.parse_args()
+    retry = None
+    if args.survivors_of:
+        with open(args.survivors_of, encoding="utf-8") as fh:
+            retry = {m.groups() for m in map(SURVIVOR.match, fh) if m}
 
     top = subprocess.run(["git", "rev-parse", "--show-toplevel"], capture_output=True,
                          text=True, check=True).stdout.strip()
@@ -133,28 +148,47 @@ def main():
             shutil.copy2(os.path.join(top, f), os.path.join(src, f), follow_symlinks=False)
 
     os.environ["QT_QPA_PLATFORM"] = "offscreen"
+    supp = os.path.join(src, "tests")  # as scripts/test.sh sets them
+    os.environ.update(ASAN_OPTIONS="detect_leaks=1:abort_on_error=1",
+                      LSAN_OPTIONS=f"suppressions={supp}/lsan.supp",
+                      UBSAN_OPTIONS="print_stacktrace=1:halt_on_error=1",
+                      TSAN_OPTIONS=f"halt_on_error=1:suppressions={supp}/tsan.supp")
     build = os.path.join(work, "build")
     jobs = str(os.cpu_count() or 2)
     rc, out = sh(["cmake", "-S", src, "-B", build, "-G", "Ninja", "-DSKELDA_BENCH=OFF",
-                  "-DCMAKE_BUILD_TYPE=RelWithDebInfo"], work)
+                  "-DCMAKE_BUILD_TYPE=RelWithDebInfo", f"-DSKELDA_SANITIZE={args.sanitize or ''}"],
+                 work)
     if rc == 0:
         rc, out = sh(["cmake", "--build", build, "-j", jobs], work)
-    ctest = ["ctest", "--test-dir", build, "-LE", "slow", "-j", jobs, "--stop-on-failure"]
-    started = time.time()
-    if rc == 0:
-        rc, out = sh(ctest, work)
+    # The unit cases take seconds and catch most faults; the end-to-end runs only follow them.
+    ctest = ["ctest", "--test-dir", build, "-j", jobs, "--stop-on-failure"]
+    stages = [ctest + ["-LE", "slow|e2e"], ctest + ["-L", "e2e", "-LE", "slow"]]
+    limits = []
+    for stage in stages:
+        started = time.time()
+        if rc == 0:
+            rc, out = sh(stage, work)
+        limits.append(max(120, 4 * (time.time() - started)))
     if rc != 0:
         sys.exit("the unchanged checkout does not build or pass its tests:\n" + out[-3000:])
-    limit = max(120, 4 * (time.time() - started))
+    # Sources that this build compiles: files that only another system builds stay out.
+    with open(os.path.join(build, "compile_commands.json"), encoding="utf-8") as fh:
+        compiled = {os.path.relpath(os.path.realpath(c["file"]), os.path.realpath(src))
+                    for c in json.load(fh)}
 
     candidates = []
     for f in sorted(filter(None, files)):
-        if f.startswith(ROOTS) and f.endswith((".cpp", ".h")) and not SKIP.search(f):
+        if (f.startswith(ROOTS) and f.endswith((".cpp", ".h")) and not SKIP.search(f)
+                and (f.endswith(".h") or f in compiled)):
             with open(os.path.join(src, f), encoding="utf-8") as fh:
                 candidates += faults_of(f, fh.read().splitlines(keepends=True))
     random.Random(args.seed).shuffle(candidates)
+    if retry is not None:
+        candidates = [c for c in candidates if (c[0], str(c[1]), c[3]) in retry]
+        args.faults = min(args.faults, len(candidates))
     print(f"{len(candidates)} possible faults; seed {args.seed}; sample {args.faults}; "
-          f"test limit {limit:.0f} s", flush=True)
+          f"test limits {limits[0]:.0f} s and {limits[1]:.0f} s"
+          + (f"; sanitizer {args.sanitize}" if args.sanitize else ""), flush=True)
 
     caught, survived, tried = 0, [], 0
     for path, no, new_line, what in candidates:
@@ -172,7 +206,10 @@ def main():
             if rc != 0:
                 continue  # does not compile: not a fault the tests could see
             tried += 1
-            rc, _ = sh(ctest, work, timeout=limit)
+            for stage, limit in zip(stages, limits):
+                rc, _ = sh(stage, work, timeout=limit)
+                if rc != 0:
+                    break
             verdict = "caught" if rc != 0 else "SURVIVED"
             caught += rc != 0
             if rc == 0:
