@@ -1,6 +1,7 @@
 """Shared pieces of the reliability scripts: bundles, throw-away homes, tree digests, and
 the clients that a run started (found by their HOME, so nothing else is ever signalled)."""
 
+import ctypes
 import hashlib
 import os
 import shutil
@@ -71,12 +72,21 @@ def env_for(home, **extra):
 
 
 def processes_of_home(home):
-    """Pids of processes whose environment holds HOME=home: the clients this run started."""
+    """Pids of the processes with HOME=home in their environment or home as their working
+    folder: the clients this run started. Both, since a process in the middle of an exec
+    shows an empty environment for a moment, and the sample client execs twice (its script,
+    then sleep) right after it writes ui.pid."""
     needle = f"HOME={home}".encode()
     pids = []
     for name in os.listdir("/proc"):
         if not name.isdigit() or int(name) == os.getpid():
             continue
+        try:
+            if os.readlink(f"/proc/{name}/cwd") == home:
+                pids.append(int(name))
+                continue
+        except OSError:
+            pass
         try:
             with open(f"/proc/{name}/environ", "rb") as f:
                 if needle in f.read().split(b"\0"):
@@ -95,6 +105,33 @@ def kill_processes_of_home(home):
     deadline = time.time() + 5
     while processes_of_home(home) and time.time() < deadline:
         time.sleep(0.05)
+
+
+def adopt_orphans():
+    """Makes this process the new parent of every orphan among its descendants (Linux's
+    child subreaper): a client that a launcher started detached stays this process's own
+    child when the launcher ends, whatever its environment, and end_descendants finds it."""
+    if ctypes.CDLL(None, use_errno=True).prctl(36, 1, 0, 0, 0) != 0:  # PR_SET_CHILD_SUBREAPER
+        raise OSError(ctypes.get_errno(), "prctl(PR_SET_CHILD_SUBREAPER)")
+
+
+def end_descendants():
+    """SIGKILLs and reaps this process's children until it has none left; after
+    adopt_orphans, that is every process it started, directly or not."""
+    me = str(os.getpid())
+    while True:
+        for name in filter(str.isdigit, os.listdir("/proc")):
+            try:
+                with open(f"/proc/{name}/stat") as f:
+                    if f.read().rsplit(")", 1)[1].split()[1] == me:  # the parent's pid
+                        os.kill(int(name), signal.SIGKILL)
+            except (OSError, IndexError):
+                pass
+        try:
+            if os.waitpid(-1, os.WNOHANG)[0] == 0:
+                time.sleep(0.02)
+        except ChildProcessError:
+            return
 
 
 def new_home(parent, name="home"):

@@ -132,6 +132,7 @@ def main():
     rng = random.Random(args.seed)
     launcher_bin = common.launcher_binary(args.build)
 
+    common.adopt_orphans()
     work = tempfile.mkdtemp(prefix="skelda-crash-")
     try:
         old_tree, new_tree = os.path.join(work, "old-client"), os.path.join(work, "new-client")
@@ -185,6 +186,7 @@ def main():
         print(f"{args.trials - len(failures)} passed, {len(failures)} failed")
         return 1 if failures else 0
     finally:
+        common.end_descendants()
         if not args.keep:
             shutil.rmtree(work, ignore_errors=True)
 

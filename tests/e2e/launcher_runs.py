@@ -131,7 +131,7 @@ class Run:
         for proc in self.children:  # kill() leaves a process that has been waited for alone
             proc.kill()
             proc.wait()
-        common.kill_processes_of_home(self.home)
+        common.end_descendants()  # the clients too: orphans are this process's children
 
 
 def tar(entries, mode="w"):
@@ -463,6 +463,7 @@ def main():
     if args.list:
         print("\n".join(CASES))
         return 0
+    common.adopt_orphans()
     work = tempfile.mkdtemp(prefix=f"skelda-{args.case}-")
     r = Run(work, common.launcher_binary(args.build))
     fn, name = CASES[args.case]
