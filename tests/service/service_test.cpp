@@ -1,6 +1,6 @@
 // The upgrade service in-process under a HOME with blanks and non-ASCII characters: stopping
 // the client, launching it, copying trees. The upgrade decision and transaction run through
-// the real launcher (tests/e2e). With SKELDA_TIMED_STOP: the slow stop cases.
+// the real launcher (tests/e2e).
 
 #include <gtest/gtest.h>
 
@@ -49,7 +49,7 @@ void Put(const std::string& file, const std::string& content) {
 
 // A child forked with on_term as its SIGTERM disposition (SIG_DFL, SIG_IGN, EndSlowly). A thread
 // collects it the moment it ends, so that probes never see a zombie.
-[[maybe_unused]] void EndSlowly(int) {  // 1.5 s after SIGTERM; async-signal-safe
+void EndSlowly(int) {  // 1.5 s after SIGTERM; async-signal-safe
     const timespec delay{1, 500000000};
     nanosleep(&delay, nullptr);
     _exit(0);
@@ -103,8 +103,6 @@ protected:
     }
 };
 
-#ifndef SKELDA_TIMED_STOP
-
 // ---- copying and launching ----
 
 TEST_F(ServiceTest, CopyPathCopiesATree) {
@@ -124,11 +122,11 @@ TEST_F(ServiceTest, PostUpgradeWithoutApplicationLogsBothErrors) {
     EXPECT_TRUE(std::regex_search(log, both)) << log;
 }
 
-// ---- stopping the client (the timed cases are in the slow build of this file) ----
+// ---- stopping the client ----
 
 // A pid file whose process has ended, or is older than the process with its number (the
 // client crashed or the machine restarted, and the number went to another program).
-TEST_F(ServiceTest, ProcessGoneOrStartedAfterThePidFileIsNeverSignalled) {
+TEST_F(ServiceTest, PidFilesOfNoProcessOrOfOneStartedAfterThemSignalNothing) {
     const pid_t gone = fork();
     if (gone == 0)
         _exit(0);
@@ -136,6 +134,7 @@ TEST_F(ServiceTest, ProcessGoneOrStartedAfterThePidFileIsNeverSignalled) {
     EXPECT_LT(Stop("pid=" + std::to_string(gone) + "\n"), 0.5);
     EXPECT_TRUE(g_kills.empty() && LoggedMessages().empty());
     ChildProcess unrelated(SIG_DFL);
+    const size_t open_files = OpenFiles();
     for (const time_t age : {time_t{3600}, time(nullptr)}) {  // an hour ago; before the boot
         EXPECT_LT(Stop("pid=" + std::to_string(unrelated.pid) + "\n", age), 0.5);
         EXPECT_TRUE(g_kills.empty());
@@ -143,20 +142,14 @@ TEST_F(ServiceTest, ProcessGoneOrStartedAfterThePidFileIsNeverSignalled) {
                   Lines{"[NOTE] pid file '" + user() + "/ui.pid' not trusted: process " +
                         std::to_string(unrelated.pid) + " started after it was written"});
     }
-    EXPECT_FALSE(unrelated.ended);
-}
-
-// Pid files naming no process: 0 and negative ids address process groups; 2^32 + INT32_MAX
-// would wrap to a pid_t that no process has.
-TEST_F(ServiceTest, PidFilesWithoutAPositivePidSignalNothing) {
-    for (const char* file :
-         {"", "port=80\n", "pid=0\n", "pid=-1\n", "pid=abc\n", "pid=6442450943\n"}) {
+    EXPECT_TRUE(!unrelated.ended && OpenFiles() == open_files);
+    // Pid files naming no process: 0 and negative ids address process groups; 2^32 + INT32_MAX
+    // would wrap to a pid_t that no process has.
+    for (const char* file : {"", "port=80\n", "pid=0\n", "pid=-1\n", "pid=abc\n", "pid=6442450943\n"}) {
         EXPECT_LT(Stop(file), 0.5) << file;
         EXPECT_TRUE(g_kills.empty() && LoggedMessages().empty()) << file;
     }
 }
-
-#else  // SKELDA_TIMED_STOP
 
 TEST_F(ServiceTest, ClientEndingOneAndAHalfSecondsAfterTermCostsTwoPauses) {
     ChildProcess child(EndSlowly);
@@ -177,8 +170,6 @@ TEST_F(ServiceTest, ClientIgnoringTermIsKilledAfterFiveSeconds) {
     EXPECT_EQ(g_kills, (Kills{{p, SIGTERM}, {p, 0}, {p, 0}, {p, 0}, {p, 0}, {p, 0}, {p, SIGKILL}}));
     EXPECT_TRUE(LoggedMessages().empty());
 }
-
-#endif
 
 }  // namespace
 
