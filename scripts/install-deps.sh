@@ -29,7 +29,7 @@ packages=(
   # Chinese (simplified and traditional), Japanese and Korean.
   fonts-liberation fonts-wqy-microhei
   procps util-linux hyperfine time python3
-  locales  # locale sources for localedef (the logger test builds fr_FR)
+  locales  # locale sources for localedef
 )
 
 missing=()

@@ -27,5 +27,6 @@ std::string ReadFile(const std::string& path);
 void MakeDirs(const std::string& path);
 bool Exists(const std::string& path);  // lstat: a dangling link exists
 void RemoveTree(const std::string& path);
+size_t OpenFiles();  // descriptors open in this process
 
 }  // namespace skelda_test
