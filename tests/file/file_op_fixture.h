@@ -35,6 +35,21 @@ protected:
                 return true;
         return false;
     }
+    // The record of each path: its stored spelling, type and size (-1: any).
+    void ExpectStoredSpellings() const {
+        const struct { const char *arg, *stored; int type; int64_t size; } rows[] = {
+            {"real/data", "real/data", FT_REG, 5}, {"real/folder/", "real/folder", FT_DIR, -1},
+            {"alias/data", "real/data", FT_REG, 5}, {"alias", "alias", FT_LNK, 4},
+            {"alias/dangling", "real/dangling", FT_LNK, 14}, {"real/folder/..", "real", FT_DIR, -1}};
+        for (const auto& r : rows) {
+            _FILE_INFO_tag info;
+            EXPECT_TRUE(GetFileInfo(U(r.arg), info) == 0 && info.exists && info.type == r.type &&
+                        info.path == ustring(R(r.stored)) && info.name == FSBaseName(r.stored) &&
+                        (r.size < 0 || info.size == r.size)) << info.path.c_str();
+        }
+        ustring real = U("alias/data");
+        EXPECT_TRUE(FSGetRealPath(real) == 0 && real == ustring(R("real/data"))) << real.c_str();
+    }
     std::string real_;
 };
 

@@ -30,16 +30,7 @@ TEST(FilePath, HelpersGiveTheTableResult) {
 }
 
 TEST_F(FileOp, RecordHasTheStoredSpellingAndExistenceCanWantIt) {
-    const struct { const char *arg, *stored; int type; int64_t size; } rows[] = {  // size -1: any
-        {"real/data", "real/data", FT_REG, 5}, {"real/folder/", "real/folder", FT_DIR, -1},
-        {"alias/data", "real/data", FT_REG, 5}, {"alias", "alias", FT_LNK, 4},
-        {"alias/dangling", "real/dangling", FT_LNK, 14}};
-    for (const auto& r : rows) {
-        _FILE_INFO_tag info;
-        EXPECT_TRUE(GetFileInfo(U(r.arg), info) == 0 && info.exists && info.type == r.type &&
-                    info.path == ustring(R(r.stored)) && info.name == FSBaseName(r.stored) &&
-                    (r.size < 0 || info.size == r.size)) << info.path.c_str();
-    }
+    ExpectStoredSpellings();
     EXPECT_TRUE(Logged("DEBUG", "Input file path = [" + path("alias/data") + "].\n") &&
                 Logged("DEBUG", "FSRefMakePath outTargetPath path = [" + R("real/data") + "].\n"));
     _FILE_INFO_tag info;
@@ -69,8 +60,10 @@ std::map<std::string, Entry> List(const ustring& folder, int flags) {
     DIR_HANDLE handle;
     DIR_ENTRY e;
     int rc = FSOpenDir(folder, flags, handle) == 0 ? 1 : -2;
-    while (rc == 1 && (rc = FSReadDir(handle, e)) == 1)
+    while (rc == 1 && (rc = FSReadDir(handle, e)) == 1) {
         out[e.name.c_str()] = {e.type, e.size};
+        EXPECT_TRUE(flags & DIR_WITH_INFO || e.mtime == 0) << "a time only with the information";
+    }
     out["end"] = {rc, 0};
     return rc == -2 ? out : (FSCloseDir(handle), out);
 }
@@ -125,6 +118,25 @@ TEST_F(FileOp, FoldersAreMadeLevelByLevelUnlessSomethingElseIsInTheWay) {
     EXPECT_TRUE(FSMKDir(U("x/y"), true) == 0 && FSMKDirFromRoot(U("x/y/a/b"), U("x/y")) == 0);
     EXPECT_TRUE(Exists(path("x/y/a/b")) && Logged("DEBUG", "FSMKDirFromRoot: create /a/b\n"));
     EXPECT_EQ(FSMKDirFromRoot(U("xx/c"), U("x")), -1) << "not a parent";
+    EXPECT_EQ(FSMKDirFromRoot(U("real/dangling/x"), U("real")), -1) << "a link in the way";
+}
+
+TEST_F(FileOp, WrappersSetTimesMakeTemporaryFilesReadableByAllAndSeeNoNetworkShare) {
+    ustring made;
+    struct stat st;
+    EXPECT_TRUE(FSUTime(U("real/data"), 1000, 2000) == 0 && FSUTime(U("none"), 1, 2) == -1);
+    EXPECT_TRUE(stat(path("real/data").c_str(), &st) == 0 && st.st_atime == 1000 && st.st_mtime == 2000);
+    ASSERT_EQ(FSMktemp(U("real"), made), 0);
+    EXPECT_TRUE(FSParentPath(made) == U("real") && FSBaseName(made).length() == 6 && !Exists(path("real/XXXXXX")));
+    EXPECT_TRUE(stat(made.c_str(), &st) == 0 && (st.st_mode & 07777) == 0644 && st.st_size == 0) << made.c_str();
+    EXPECT_TRUE(FSMktemp(U("none"), made) == -1 &&
+                Logged("ERROR", "mkstemp(" + path("none") + "/XXXXXX): No such file or directory\n"));
+    EXPECT_TRUE(isFileLocked(U("real/data"), X_OK) && hasFilePermission(U("real/data"), R_OK | W_OK));
+    EXPECT_FALSE(isMountPoint(U("real")) || IsMSDOS(U("real")));
+    EXPECT_EQ(ReadFile(path("op.log")).find("Failed to get file system info"), std::string::npos);
+    EXPECT_FALSE(isMountPoint(U("none")));
+    EXPECT_TRUE(Logged("ERROR", "isMountPoint: Failed to get file system info '" + path("none") +
+                                    "'. No such file or directory\n"));
 }
 
 TEST_F(FileOp, CopyCarriesEveryByteAndTellsReadFromWriteErrors) {
