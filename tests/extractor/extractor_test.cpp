@@ -1,5 +1,7 @@
 // Extractor and Notify_Adapter: what lands below dest, the dialog's reports, the error lines.
 #include <QSignalSpy>
+#include <archive.h>
+#include <archive_entry.h>
 #include <gtest/gtest.h>
 
 #include <regex>
@@ -80,6 +82,29 @@ TEST_P(FormatTest, DamagedHeaderEndsTheCountAndFailsTheExtractionThere) {
     ExpectReports(label, progress, 2, 2);
     const std::string why = zip ? "ZIP file header" : "tar archive";
     EXPECT_EQ(Log(), Err("archive_read_next_header failed: 'Truncated " + why + "'"));
+}
+
+// Beside Extract: the entry names on standard output, and one entry's data copied block by
+// block into a writer of the caller's.
+TEST_P(FormatTest, ListPrintsTheNamesAndCopyDataCopiesEveryBlock) {
+    const std::string big(100000, 'b'), pkg = Make(GetParam(), {E::File("a", "1st"), E::File("dir/b", big)});
+    ::testing::internal::CaptureStdout();
+    EXPECT_EQ(For(pkg).List(), 0);
+    EXPECT_EQ(::testing::internal::GetCapturedStdout(), "a\ndir/b\n");
+    std::unique_ptr<archive, int (*)(archive*)> r(archive_read_new(), archive_read_free),
+        w(archive_write_disk_new(), archive_write_free);
+    archive_read_support_filter_all(r.get()), archive_read_support_format_all(r.get());
+    ASSERT_EQ(archive_read_open_filename(r.get(), pkg.c_str(), 10240), ARCHIVE_OK);
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(r.get(), &entry) == ARCHIVE_OK) {
+        archive_entry_set_pathname(entry, (dest + "/" + archive_entry_pathname(entry)).c_str());
+        ASSERT_EQ(archive_write_header(w.get(), entry), ARCHIVE_OK) << archive_error_string(w.get());
+        EXPECT_EQ(For(pkg).copy_data(r.get(), w.get()), 0);
+        archive_write_finish_entry(w.get());
+    }
+    EXPECT_TRUE(ReadFile(dest + "/a") == "1st" && ReadFile(dest + "/dir/b") == big);
+    EXPECT_TRUE(For(pkg).copy_data(nullptr, w.get()) == -1 && For("").List() == -1);
+    EXPECT_EQ(Log(), Err("Invalid Argument") + Err("Invalid argument"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Formats, FormatTest,
