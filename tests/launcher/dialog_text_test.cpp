@@ -73,9 +73,4 @@ INSTANTIATE_TEST_SUITE_P(Languages, DialogText,
                                            "ptb", "ptg", "rus", "spn", "sve", "trk"),
                          [](const auto& info) { return std::string(info.param); });
 
-TEST(DialogTextCheck, ACharacterNoFontHasIsNotDrawn) {
-    const QFont arial(QStringLiteral("Arial"));
-    EXPECT_FALSE(AllDrawn(QStringLiteral("Skelda ") + QString::fromUcs4(U"\U0010FFFD"), arial));
-}
-
 }  // namespace

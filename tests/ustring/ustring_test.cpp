@@ -56,7 +56,9 @@ TEST(Ustring, SourcesStopAtTheirTerminatorAndStayInRange) {
 TEST(Ustring, EveryChangeOfTheBytesInvalidatesTheUtf16Text) {
     Probe s("h\xC3\xA9");
     EXPECT_EQ(U16(s.c_str_utf16()), u"h\u00e9");
-    s += "!?", s.replace('!', '?');
+    s += "!?";
+    EXPECT_EQ(U16(s.c_str_utf16()), u"h\u00e9!?");
+    s.replace('!', '?');
     EXPECT_EQ(U16(s.c_str_utf16()), u"h\u00e9??");
     s.trim("?");
     EXPECT_EQ(U16(s.c_str_utf16()), u"h\u00e9") << "trimmed";
@@ -92,7 +94,8 @@ TEST(Ustring, SearchesAgreeInEveryArgumentForm) {
         {'r', "abc", "", npos, 2}, {'r', "", "", npos, npos}, {'r', "abcbc", "bc", 2, 1},
         {'r', "abcbc", "c", 99, 4}, {'o', "abcbc", "c", 3, 4}, {'o', "ab\xC3\xA9", "\xA9\xC3", 0, 2},
         {'n', "abc", "", 2, 2}, {'n', "abba c", "ab", 0, 4}, {'l', "abcbc", "b", 2, 1},
-        {'l', "abc", "xa", npos, 0}, {'L', "abcbc", "", 2, 2}, {'L', "abc", "abc", npos, npos}};
+        {'l', "abc", "xa", npos, 0}, {'L', "abcbc", "", 2, 2}, {'L', "abc", "abc", npos, npos},
+        {'l', "abcbc", "c", npos, 4}};
     for (const auto& r : rows) {
         SCOPED_TRACE(std::string(1, r.op) + " in '" + r.text + "' of '" + r.arg + "'");
         const ustring t(r.text);
