@@ -134,22 +134,17 @@ class Run:
         common.end_descendants()  # the clients too: orphans are this process's children
 
 
-def tar(entries, mode="w"):
-    """A pax tar archive of (name, data[, permissions]) files."""
+def client_package(r, extra=()):
+    """A pax tar package of the new client plus `extra` (name, data) files, its INFO last."""
+    exe = open(os.path.join(r.trees["new"], "Contents/MacOS/skelda-backup-ui"), "rb").read()
     buf = io.BytesIO()
-    with tarfile.open(fileobj=buf, mode=mode, format=tarfile.PAX_FORMAT) as t:
-        for name, data, perm in ((*e, 0o644)[:3] for e in entries):
+    with tarfile.open(fileobj=buf, mode="w", format=tarfile.PAX_FORMAT) as t:
+        for name, data in [("Contents/MacOS/skelda-backup-ui", exe), *extra,
+                           ("Contents/Resources/INFO", b"[Version]\nbuild_version=200\n")]:
             info = tarfile.TarInfo(name)
-            info.mode, info.size = perm, len(data)
+            info.mode, info.size = 0o755 if data is exe else 0o644, len(data)
             t.addfile(info, io.BytesIO(data))
     return buf.getvalue()
-
-
-def client_package(r, extra=(), mode="w"):
-    """A working package of the new client plus `extra` entries, its INFO last."""
-    exe = open(os.path.join(r.trees["new"], "Contents/MacOS/skelda-backup-ui"), "rb").read()
-    return tar([("Contents/MacOS/skelda-backup-ui", exe, 0o755), *extra,
-                ("Contents/Resources/INFO", b"[Version]\nbuild_version=200\n")], mode)
 
 
 def expect_package(r, package=None):
@@ -169,7 +164,8 @@ def expect_package(r, package=None):
 @case()
 def three_runs_then_an_upgrade_leave_one_client(r):
     exe = r.bundle(OLD, "Skelda Backup", tree="old")  # a blank in the path
-    os.makedirs(f"{r.app}_tmp/left/over")  # a first installation removes a leftover backup
+    for n in ("", "1"):  # a first installation removes a leftover APP_tmp, not APP_tmp1
+        os.makedirs(f"{r.app}_tmp{n}/left/over")
     r.run(exe)
     bundle = os.path.dirname(os.path.dirname(os.path.dirname(exe)))
     check(r.stdout == f"lib path = '{bundle}/Contents/Frameworks/plugins'\n", r.stdout)
@@ -191,21 +187,11 @@ def three_runs_then_an_upgrade_leave_one_client(r):
     r.run(exe)
     r.run(exe)
     check(r.count("no need to upgrade") == 2 and r.count(READY) == 1, r.log())
-    check(not glob.glob(f"{r.user}/app") + glob.glob(r.app + "_*"), "aged folder or backup left")
+    check(glob.glob(f"{r.user}/app") + glob.glob(r.app + "_*") == [r.app + "_tmp1"], "aged folder left")
     check(r.client() == first and r.clients() == [first], f"clients: {r.clients()}")
     r.run(r.bundle())
     check(r.clients() == [r.client(first)], f"clients after the upgrade: {r.clients()}")
     expect_package(r)
-
-
-@case()
-def log_folder_in_the_way(r):
-    os.makedirs(r.user)
-    with open(os.path.join(r.user, "log"), "w") as f:
-        f.write("in the way")
-    r.run(r.bundle())
-    r.client()
-    check(open(os.path.join(r.user, "log")).read() == "in the way", "the file was changed")
 
 
 @case()
@@ -312,7 +298,6 @@ UNTRUSTED = {  # how ui.pid is made: the reason logged
     "pid_of_another_account": "process {pid} is another account's",
     "pid_file_dated_ahead": "dated in the future",
     "pid_file_is_a_fifo": "not a regular file",
-    "pid_file_is_a_folder": "not a regular file",
 }
 
 
@@ -324,8 +309,6 @@ def untrusted_pid_file(r, name):
     pid_file, other = f"{r.user}/ui.pid", None
     if name == "pid_file_is_a_fifo":
         os.mkfifo(pid_file)
-    elif name == "pid_file_is_a_folder":
-        os.makedirs(pid_file)
     else:  # a live process that started before the file was written, not a client of r.home
         user = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
         other = subprocess.Popen(user * (name == "pid_of_another_account") + ["sleep", "600"])
@@ -408,13 +391,20 @@ def upgrade_decision(r, name):
 
 
 @case()
-def malformed_level_file(r):
+def ten_backup_names_taken_and_a_malformed_level_file(r):
+    """Nothing changes, and the broken lines of the level file turn no DEBUG line on."""
     old = r.install_old()
+    taken = sorted(f"{r.app}_tmp{n}" for n in ["", *range(1, 10)])
+    for name in taken:
+        os.makedirs(f"{name}/left")
     exe = r.bundle()
     with open(f"{r.work}/New.app/log/launcher.debug", "wb") as f:
         f.write(b"launcher_debug\n=7\nservice_debug=seven\n\"unterminated=7\n\xff\xfe=1\n")
     r.run(exe)
-    check(common.tree_digest(r.app) not in (None, old), "the upgrade did not happen")
+    r.expect(f"failed to backup app from '{r.app}' -> '{r.app}_tmp9' at max retries, exiting\n")
+    r.expect_app(old, "the old application")
+    check(sorted(glob.glob(r.app + "_*")) == taken and r.count("failed to backup app") == 11, r.log())
+    check(r.count(RUNNING) == 1, "DEBUG lines of the second run")
 
 
 @case("first_install_does_not_fit", "upgrade_does_not_fit", "disk_already_full")
