@@ -125,6 +125,7 @@ TEST_F(FileOp, WrappersSetTimesMakeTemporaryFilesReadableByAllAndSeeNoNetworkSha
     ustring made;
     struct stat st;
     EXPECT_TRUE(FSUTime(U("real/data"), 1000, 2000) == 0 && FSUTime(U("none"), 1, 2) == -1);
+    EXPECT_TRUE(FSChown(U("alias"), 0, 0) == 0 && FSChown(U("none"), 0, 0) == -1 && FSTimeEqual(7, 7) && !FSTimeEqual(7, 8));
     EXPECT_TRUE(stat(path("real/data").c_str(), &st) == 0 && st.st_atime == 1000 && st.st_mtime == 2000);
     ASSERT_EQ(FSMktemp(U("real"), made), 0);
     EXPECT_TRUE(FSParentPath(made) == U("real") && FSBaseName(made).length() == 6 && !Exists(path("real/XXXXXX")));
