@@ -128,5 +128,12 @@ TEST_F(LauncherTest, DialogHasTheShippedAppearanceAndACurrentInstallationNeverSh
     EXPECT_TRUE(ClientStarted());
 }
 
+// Deleting a running QThread aborts the process: the Worker joins its thread when deleted.
+TEST_F(LauncherTest, DeletedWhileItsThreadRunsItEndsCleanly) {
+    launcher->Run();
+    launcher.reset();
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty()) << "the dialog goes with it";
+}
+
 }  // namespace
 }  // namespace skelda_test
