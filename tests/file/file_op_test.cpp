@@ -34,9 +34,9 @@ TEST_F(FileOp, RecordHasTheStoredSpellingAndExistenceCanWantIt) {
     EXPECT_TRUE(Logged("DEBUG", "Input file path = [" + path("alias/data") + "].\n") &&
                 Logged("DEBUG", "FSRefMakePath outTargetPath path = [" + R("real/data") + "].\n"));
     _FILE_INFO_tag info;
-    info.uid = 7;  // a missing path clears the record
+    info.uid = 7, info.dev = 8;  // a missing path clears the record
     ASSERT_EQ(GetFileInfo(U("none/here"), info), 0);
-    EXPECT_TRUE(!info.exists && !info.uid && info.name == "here" && info.path == U("none/here"));
+    EXPECT_TRUE(!info.exists && !info.uid && !info.dev && info.name == "here" && info.path == U("none/here"));
     info.name = "kept";
     EXPECT_TRUE(GetFileInfo(U("real/data/below"), info) == -1 && FSStat("", info, false) == -1);
     info.exists = true;
