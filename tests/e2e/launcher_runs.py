@@ -266,19 +266,12 @@ def launchers_started_together(r, name):
 
 # ---- hostile and damaged input ----
 
-@case("empty_package", "not_an_archive", "truncated_package")
-def damaged_package(r, name):
-    r.bundle()
-    good = r.package()
-    package, line = {
-        "empty_package": (b"", "Failed to calculate total file numbers, ret: 0"),
-        "not_an_archive": (os.urandom(65536), "Failed to calculate total file numbers, ret: "),
-        # where the cut lands decides which libarchive call notices it
-        "truncated_package": (good[:len(good) // 2], "[ERROR] extractor.cpp("),
-    }[name]
+@case()
+def empty_package(r):
+    """Damaged packages are the extractor test's; an empty one must fail the extraction too."""
     old = r.install_old()
-    r.run(r.bundle(package=package))
-    r.expect(line, ROLLBACK, "Failed to upgrade package")
+    r.run(r.bundle(package=b""))
+    r.expect("Failed to calculate total file numbers, ret: 0", ROLLBACK, "Failed to upgrade package")
     r.expect_app(old, "the old application, byte for byte")
 
 
@@ -335,7 +328,6 @@ def info(build):
 VERSIONS = {  # APP's INFO (None: none), its client, the shipped INFO (None: none): upgrade?
     "no_client_older_target": (info("500"), False, info("400"), True),
     "no_source_info": (None, True, info("5"), True),
-    "newer_target": (info("399"), True, info("400"), True),
     "equal_builds": (info("400"), True, info("400"), False),
     "never_downgrades": (info("401"), True, info("400"), False),
     "trailing_letter": (info("1203x"), True, info("1203"), False),
