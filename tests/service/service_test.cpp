@@ -17,6 +17,7 @@
 #include <regex>
 #include <thread>
 
+#include "installation-lock.h"
 #include "log/log.h"
 #include "mac/mac-service.h"
 #include "temp_dir.h"
@@ -72,7 +73,7 @@ protected:
     std::string app() const { return user() + "/Skelda.app"; }
     void CaptureLog() {  // this process's service log, at DEBUG
         std::remove(path("log").c_str());
-        WriteFile(path("debug"), "service_debug=7\n");
+        WriteFile(path("debug"), "service_debug=7\nlauncher_debug=7\n");
         ASSERT_EQ(Logger::Initialize(Logger::LOGFILE, path("log"), path("debug"), 50), 0);
     }
     std::string Logged() const {  // as "[LEVEL] message" lines
@@ -124,6 +125,9 @@ TEST_F(ServiceTest, PidFilesOfNoProcessOrOfOneStartedAfterThemSignalNothing) {
     ASSERT_EQ(waitpid(gone, nullptr, 0), gone);
     EXPECT_LT(Stop("pid=" + std::to_string(gone) + "\n"), 0.5);
     EXPECT_TRUE(g_kills.empty() && Logged().empty());
+    errno = EWOULDBLOCK;  // left by an earlier call: a free installation lock is taken without a word
+    { const InstallationLock lock(user().c_str()); }
+    EXPECT_TRUE(Exists(user() + "/upgrade.lock") && Logged().empty()) << Logged();
     ChildProcess unrelated(SIG_DFL);
     const size_t open_files = OpenFiles();
     for (const time_t age : {time_t{3600}, time(nullptr)}) {  // an hour ago; before the boot
