@@ -11,7 +11,7 @@ const std::string k8189(8189, 'x');  // "a=" and these fill fgets' 8191 bytes ex
 
 using ConfigRead = skelda_test::TempDirTest;
 
-TEST_F(ConfigRead, ReadsEachLineShapeAsTheTableSays) {
+TEST_F(ConfigRead, ReadsEachLineShapeAsTheTableSaysAndGetIntTakesTheLeadingDecimal) {
     // pairs: the map after read besides "old", which only a failed read removes.
     const struct { std::string file; bool keep_quotes; int result; Pairs pairs; } rows[] = {
         {"a=1\n", false, 0, {{"a", "1"}}}, {"  b = 2  \n", false, 0, {{"b", "2"}}},
@@ -38,13 +38,11 @@ TEST_F(ConfigRead, ReadsEachLineShapeAsTheTableSays) {
             got[entry.first.c_str()] = entry.second.c_str();
         EXPECT_EQ(got, row.result ? expected : (expected["old"] = "1", expected)) << row.file;
     }
-}
-
-TEST(Config, GetIntTakesTheLeadingDecimalClampedTo32BitsAndUnreadableFilesLeaveTheMap) {
+    // get_int takes the leading decimal, clamped to 32 bits; files that cannot be read leave the map.
     Config c;
-    const std::map<std::string, int> rows = {{"42", 42}, {" +7x", 7}, {"-3", -3}, {"abc", 0},
+    const std::map<std::string, int> ints = {{"42", 42}, {" +7x", 7}, {"-3", -3}, {"abc", 0},
         {"", 0}, {"99999999999", INT_MAX}, {"-99999999999", INT_MIN}};
-    for (const auto& row : rows) {
+    for (const auto& row : ints) {
         c[ustring("n")] = ustring(row.first);
         EXPECT_EQ(c.get_int(ustring("n")), row.second) << "value \"" << row.first << "\"";
     }

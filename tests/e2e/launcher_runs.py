@@ -321,8 +321,7 @@ def untrusted_pid_file(r, name):
     check(r.clients(), "the user's own client was not started")
 
 
-def info(build):
-    return b"[Version]\nbuild_version=" + build.encode() + b"\n"
+info = lambda build: b"[Version]\nbuild_version=" + build.encode() + b"\n"  # noqa: E731
 
 
 VERSIONS = {  # APP's INFO (None: none), its client, the shipped INFO (None: none): upgrade?

@@ -29,7 +29,22 @@ TEST(FilePath, HelpersGiveTheTableResult) {
     }
 }
 
-TEST_F(FileOp, RecordHasTheStoredSpellingAndExistenceCanWantIt) {
+// name -> (type, size); "end" -> {the last FSReadDir result (-2: FSOpenDir failed), 0}.
+using Entry = std::pair<int, int64_t>;
+std::map<std::string, Entry> List(const ustring& folder, int flags) {
+    std::map<std::string, Entry> out;
+    DIR_HANDLE handle;
+    DIR_ENTRY e;
+    int rc = FSOpenDir(folder, flags, handle) == 0 ? 1 : -2;
+    while (rc == 1 && (rc = FSReadDir(handle, e)) == 1) {
+        out[e.name.c_str()] = {e.type, e.size};
+        EXPECT_TRUE(flags & DIR_WITH_INFO || e.mtime == 0) << "a time only with the information";
+    }
+    out["end"] = {rc, 0};
+    return rc == -2 ? out : (FSCloseDir(handle), out);
+}
+
+TEST_F(FileOp, RecordsExistenceAndListingsGiveTheStoredSpellingTypesAndSizes) {
     ExpectStoredSpellings();
     EXPECT_TRUE(Logged("DEBUG", "Input file path = [" + path("alias/data") + "].\n") &&
                 Logged("DEBUG", "FSRefMakePath outTargetPath path = [" + R("real/data") + "].\n"));
@@ -51,31 +66,14 @@ TEST_F(FileOp, RecordHasTheStoredSpellingAndExistenceCanWantIt) {
     for (const auto& r : exist)
         EXPECT_TRUE(IsFileExist(r.path.c_str(), true) == r.sensitive &&
                     IsFileExist(r.path.c_str(), false) == r.insensitive) << r.path;
-}
-
-// name -> (type, size); "end" -> {the last FSReadDir result (-2: FSOpenDir failed), 0}.
-using Entry = std::pair<int, int64_t>;
-std::map<std::string, Entry> List(const ustring& folder, int flags) {
-    std::map<std::string, Entry> out;
-    DIR_HANDLE handle;
-    DIR_ENTRY e;
-    int rc = FSOpenDir(folder, flags, handle) == 0 ? 1 : -2;
-    while (rc == 1 && (rc = FSReadDir(handle, e)) == 1) {
-        out[e.name.c_str()] = {e.type, e.size};
-        EXPECT_TRUE(flags & DIR_WITH_INFO || e.mtime == 0) << "a time only with the information";
-    }
-    out["end"] = {rc, 0};
-    return rc == -2 ? out : (FSCloseDir(handle), out);
-}
-
-TEST_F(FileOp, ListingsGiveTypesAndSizesOnlyWithInfoAndLinksUpTo1023Bytes) {
+    // Listings: types and sizes only with the information, links read up to 1023 bytes.
     const std::map<std::string, Entry> empty{{".", {FT_DIR, 0}}, {"..", {FT_DIR, 0}}, {"end", {}}};
     EXPECT_TRUE(List(R("real/folder"), 0) == empty && List(R("real/folder"), DIR_WITH_INFO) == empty);
     ASSERT_EQ(mkfifo(path("real/fifo").c_str(), 0600), 0);
-    auto plain = List(R("real"), 0), info = List(R("real"), DIR_WITH_INFO);
-    EXPECT_TRUE(plain["data"] == Entry(FT_REG, 0) && info["data"] == Entry(FT_REG, 5));
-    EXPECT_TRUE(info["dangling"] == Entry(FT_LNK, 14) && info["fifo"].first == FT_FIFO &&
-                info["folder"].first == FT_DIR) << "the link, not its target";
+    auto plain = List(R("real"), 0), full = List(R("real"), DIR_WITH_INFO);
+    EXPECT_TRUE(plain["data"] == Entry(FT_REG, 0) && full["data"] == Entry(FT_REG, 5));
+    EXPECT_TRUE(full["dangling"] == Entry(FT_LNK, 14) && full["fifo"].first == FT_FIFO &&
+                full["folder"].first == FT_DIR) << "the link, not its target";
     EXPECT_EQ(List(U("missing"), 0)["end"].first, -2);
     EXPECT_TRUE(Logged("ERROR", "FSOpenDir: Failed to open directory '" + path("missing") +
                                     "'. No such file or directory\n"));

@@ -1,4 +1,4 @@
-// The logger: start-up default, line format, thresholds, rotation, the time stamp's locale.
+// The logger: start-up default, line format, thresholds, rotation, two threads.
 #include <gmock/gmock.h>
 
 #include <cstdlib>
@@ -12,18 +12,6 @@
 namespace {
 
 using namespace skelda_test;
-
-// Before Initialize the logger writes WARNING and worse, time-stamped, to standard error. CTest
-// runs each case in a process of its own, and this case comes first, so nothing touched it yet.
-TEST(LogStartup, WarningAndWorseGoToStandardErrorBeforeInitialize) {
-    ::testing::internal::CaptureStderr();
-    Logger::LogMsg(Logger::WARNING, "launcher_debug", "[WARNING] s(%d): early\n", 1);
-    Logger::LogMsg(Logger::INFO, "launcher_debug", "[INFO] s(%d): early\n", 2);
-    Logger::LogMsg(Logger::ERROR, "service_debug", "[ERROR] s(%d): early\n", 3);
-    const std::string stamp = "[A-Z][a-z][a-z] [0-9][0-9] [0-9][0-9]:[0-9][0-9]:[0-9][0-9] ";
-    EXPECT_THAT(::testing::internal::GetCapturedStderr(), ::testing::MatchesRegex(
-        stamp + "\\[WARNING\\] s\\(1\\): early\n" + stamp + "\\[ERROR\\] s\\(3\\): early\n"));
-}
 
 std::vector<std::string> Lines(const std::string& file) {  // each with its "\n"
     std::vector<std::string> lines;
@@ -57,7 +45,16 @@ protected:
     const time_t from = std::time(nullptr);
 };
 
-TEST_F(Log, SklogLineIsStampLevelSourceLineThenText) {
+// Before Initialize the logger writes WARNING and worse, time-stamped, to standard error. CTest
+// runs each case in a process of its own, so nothing touched it yet.
+TEST_F(Log, BeforeInitializeWarningsGoToStandardErrorAndSklogLinesAreStampLevelSourceLineText) {
+    ::testing::internal::CaptureStderr();
+    Logger::LogMsg(Logger::WARNING, "launcher_debug", "[WARNING] s(%d): early\n", 1);
+    Logger::LogMsg(Logger::INFO, "launcher_debug", "[INFO] s(%d): early\n", 2);
+    Logger::LogMsg(Logger::ERROR, "service_debug", "[ERROR] s(%d): early\n", 3);
+    const std::string stamp = "[A-Z][a-z][a-z] [0-9][0-9] [0-9][0-9]:[0-9][0-9]:[0-9][0-9] ";
+    EXPECT_THAT(::testing::internal::GetCapturedStderr(), ::testing::MatchesRegex(
+        stamp + "\\[WARNING\\] s\\(1\\): early\n" + stamp + "\\[ERROR\\] s\\(3\\): early\n"));
     const std::string log = Start("launcher.log");
     SKLOG(WARNING, "launcher_debug", "value %s, %d\n", "x", 5); const int line = __LINE__;
     SKLOG(ERROR, "service_debug", "no arguments\n");

@@ -95,15 +95,12 @@ protected:
 
 // ---- copying and launching ----
 
-TEST_F(ServiceTest, CopyPathCopiesATree) {
+TEST_F(ServiceTest, CopyPathCopiesATreeAndWithoutAPerUserFolderLaunchingAndExtractingFail) {
     Put(path("src/Contents/Resources/INFO"), "[Version]\nbuild_version=5");
     Put(path("src/Contents/MacOS/skelda-backup-ui"), "#!/bin/sh\n");
     ASSERT_EQ(symlink("INFO", path("src/Contents/Resources/link").c_str()), 0);
     ASSERT_EQ(MacService().FSCopyPath(path("src").c_str(), path("dst").c_str()), 0);
     EXPECT_EQ(std::system(("diff -r '" + path("src") + "' '" + path("dst") + "'").c_str()), 0);
-}
-
-TEST_F(ServiceTest, WithoutAPerUserFolderLaunchingAndExtractingLogTheirErrors) {
     CaptureLog();
     Put(user(), "a file where the per-user installation goes");
     MacService().PostUpgrade();

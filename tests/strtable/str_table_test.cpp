@@ -13,7 +13,7 @@
 namespace {
 
 const int kSslError = 153;  // its English text and its French translation hold backslash-n
-TEST(LoadStr, GivesEnglishOrTheCompiledFrenchDecodedWithLineBreaks) {
+TEST(StrTable, GivesEnglishOrTheCompiledFrenchDecodedWithLineBreaksAndFindsKeysInAnyCase) {
     EXPECT_EQ(StrTable::LoadStr(57), "Skelda Backup is initializing...");
     EXPECT_EQ(StrTable::LoadStr(203), QString("Taking snapshots") + QChar(0x2026));
     EXPECT_EQ(StrTable::LoadStr(kSslError),
@@ -24,9 +24,7 @@ TEST(LoadStr, GivesEnglishOrTheCompiledFrenchDecodedWithLineBreaks) {
     EXPECT_EQ(StrTable::LoadStr(kSslError),  // the literal is UTF-8
               "Le certificat de %1 n'est pas approuvé.\nVoulez-vous continuer quand même ?");
     QCoreApplication::removeTranslator(&french);
-}
-
-TEST(LookupStrID, FindsKeyIgnoringAsciiCase) {
+    // Keys are found ignoring ASCII case.
     const struct { const char* key; int id; } rows[] = {
         {"APP_NAME", 13}, {"app_name", 13}, {"App_Name", 13}, {"wizard_welcome_slogan", 311}, {"", -1},
         {"accessible_add_filename_button", 0}, {"no_such_key", -1}, {"app_nam", -1}, {"app_name ", -1},

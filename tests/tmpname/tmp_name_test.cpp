@@ -13,7 +13,7 @@ public:
 
 namespace {
 
-TEST(TmpName, IsEightDistinctCharactersSpellingTheNextSixKeystreamBytes) {
+TEST(TmpName, IsEightDistinctCharactersSpellingTheNextSixKeystreamBytesOfRc4) {
     const std::string abc = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
     std::set<std::string> seen;
     for (int i = 0; i < 2000; ++i) {
@@ -29,9 +29,7 @@ TEST(TmpName, IsEightDistinctCharactersSpellingTheNextSixKeystreamBytes) {
         ASSERT_TRUE(name.size() == 8 && spelled == want && seen.insert(name).second)
             << name << ": new, six bits a character, first byte first";
     }
-}
-
-TEST(TmpName, KeyComesFromTheDeviceAndRc4MatchesTheKnownVectorOfKeyWiki) {
+    // The key comes from the device, and RC4 matches the known vector of key "Wiki".
     unsigned char a[256] = {}, b[256] = {}, key[256], state[256], out[5];
     TmpNameGen::get_key(a, sizeof(a)), TmpNameGen::get_key(b, sizeof(b));
     EXPECT_TRUE(std::memcmp(a, b, 8) != 0 && std::memcmp(a + 128, b + 128, 128) != 0) << "not from the device";
