@@ -291,6 +291,7 @@ UNTRUSTED = {  # how ui.pid is made: the reason logged
     "pid_of_another_account": "process {pid} is another account's",
     "pid_file_dated_ahead": "dated in the future",
     "pid_file_is_a_fifo": "not a regular file",
+    "pid_file_is_a_folder": "not a regular file",
 }
 
 
@@ -302,6 +303,8 @@ def untrusted_pid_file(r, name):
     pid_file, other = f"{r.user}/ui.pid", None
     if name == "pid_file_is_a_fifo":
         os.mkfifo(pid_file)
+    elif name == "pid_file_is_a_folder":
+        os.makedirs(pid_file)
     else:  # a live process that started before the file was written, not a client of r.home
         user = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
         other = subprocess.Popen(user * (name == "pid_of_another_account") + ["sleep", "600"])
