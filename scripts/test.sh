@@ -3,7 +3,7 @@
 #   scripts/test.sh                 plain build in build/
 #   scripts/test.sh --sanitize address|thread   sanitized build in build-<kind>/
 #   scripts/test.sh --qt 6          with Qt 6 instead of Qt 5, in build-qt6[-<kind>]/
-# Extra arguments after "--" go to ctest (for example -L e2e or -LE slow).
+# Extra arguments after "--" go to ctest (for example -L e2e or -L unit).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
