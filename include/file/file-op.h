@@ -141,3 +141,14 @@ int FSRename(const ustring& src, const ustring& dst, bool case_sensitive);
 // always recursive. 0 removed or nothing there; -1 empty path or information failure;
 // -3 removal failed.
 int FSRemove(const ustring& path, bool recursive);
+
+// ---- Durability ----
+
+// A batch of new files is made durable in two steps: FSSyncNewFile on each file once it is
+// complete, then FSSyncVolume on any path of the same volume, after which every file of the
+// batch and every name change made so far survive a power cut. FSSyncPath makes one file's
+// data, or the names in one folder (a rename into or out of it), durable on its own.
+// 0, or -1 with the system's reason logged.
+int FSSyncNewFile(const ustring& path);
+int FSSyncVolume(const ustring& path);
+int FSSyncPath(const ustring& path);

@@ -6,6 +6,6 @@
 #include "file/file-op.h"
 
 // "." or "..", which the tree walks skip.
-inline bool IsDotEntry(const ustring& name) {
-    return std::strcmp(name.c_str(), ".") == 0 || std::strcmp(name.c_str(), "..") == 0;
+inline bool IsDotEntry(const char* name) {
+    return std::strcmp(name, ".") == 0 || std::strcmp(name, "..") == 0;
 }

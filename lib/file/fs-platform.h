@@ -15,3 +15,12 @@ int StoredSpelling(const char* path, bool follow_leaf, char* buf, size_t size);
 // The type name of the file system that holds path, as macOS's statfs reports it: "nfs",
 // "smbfs", "afpfs", "msdos", "apfs", ... Returns 0, or -1 with errno set.
 int FileSystemTypeName(const char* path, std::string& name);
+
+// Durability of what was written. A batch of new files becomes durable in two steps:
+// StartWriteback on each file once it is complete, then FlushVolume on any file or folder of
+// the same volume, which also makes every change of names made so far durable. FlushOne
+// makes one file's data, or the names in one folder, durable on its own. Each returns 0, or
+// an errno value. How each system is asked, and why, is said in its implementation.
+int StartWriteback(const char* path);
+int FlushVolume(const char* path);
+int FlushOne(const char* path);

@@ -17,7 +17,7 @@ int MoveTreeAcross(const ustring& src, const ustring& dst, bool case_sensitive) 
         return -3;
     DIR_ENTRY entry;
     while (FSReadDir(dir, entry) == 1) {
-        if (IsDotEntry(entry.name))
+        if (IsDotEntry(entry.name.c_str()))
             continue;
         if (FSRename(src + "/" + entry.name, dst + "/" + entry.name, case_sensitive) != 0) {
             FSCloseDir(dir);

@@ -4,6 +4,7 @@
 #include <archive_entry.h>
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <regex>
 
 #include "archive_maker.h"
@@ -82,6 +83,30 @@ TEST_P(FormatTest, DamagedHeaderEndsTheCountAndFailsTheExtractionThere) {
     ExpectReports(label, progress, 2, 2);
     const std::string why = zip ? "ZIP file header" : "tar archive";
     EXPECT_EQ(Log(), Err("archive_read_next_header failed: 'Truncated " + why + "'"));
+}
+
+// The version file is the installation's commit record: wherever it stands in the package,
+// it reaches the disk after every other entry. Reports come when the percentage changes.
+TEST_P(FormatTest, TheVersionFileLandsLastAndReportsFollowThePercentage) {
+    std::vector<E> entries{E::File("./Contents/Resources/INFO", "build=200"), E::Folder("Contents/MacOS")};
+    for (int i = 0; i < 248; ++i)
+        entries.push_back(E::File("Contents/MacOS/f" + std::to_string(i), "x"));
+    const std::string pkg = Make(GetParam(), entries), info = dest + "/Contents/Resources/INFO";
+    std::vector<int> reports, seen_info;
+    QObject::connect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, [&](int total, int n) {
+        EXPECT_EQ(total, 250);
+        reports.push_back(n * 100 / total);
+        if (Exists(info))
+            seen_info.push_back(n);
+    });
+    EXPECT_EQ(For(pkg).Extract(), 0);
+    QObject::disconnect(Notify_Adapter::GetInstance(), &Notify_Adapter::sigUpdateProgress, nullptr, nullptr);
+    EXPECT_EQ(ReadFile(info), "build=200");
+    EXPECT_EQ(seen_info, std::vector<int>{}) << "reports made while the version file was on disk";
+    std::vector<int> every_percent(101);
+    std::iota(every_percent.begin(), every_percent.end(), 0);
+    EXPECT_EQ(reports, every_percent);
+    EXPECT_EQ(Log(), "");
 }
 
 // Beside Extract: the entry names on standard output, and one entry's data copied block by

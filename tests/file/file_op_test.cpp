@@ -172,4 +172,14 @@ TEST_F(FileOp, RenameAndRemoveTellFailuresApartAndNeverFollowLinks) {
     EXPECT_TRUE(FSRemove(U("dst"), false) == 0 && FSRemove("", false) == -1) << "nothing there";
 }
 
+TEST_F(FileOp, FlushesReachFilesAndFoldersAndSayWhyTheyFail) {
+    EXPECT_TRUE(FSSyncNewFile(U("real/data")) == 0 && FSSyncVolume(U("real")) == 0 &&
+                FSSyncPath(U("real/data")) == 0 && FSSyncPath(U("real")) == 0);
+    ASSERT_EQ(mkfifo(path("fifo").c_str(), 0600), 0);
+    EXPECT_EQ(FSSyncPath(U("fifo")), -1) << "a FIFO has nothing to flush, and opening it must not block";
+    EXPECT_TRUE(Logged("ERROR", "FSSyncPath: Failed to flush '" + path("fifo") + "'. Invalid argument\n"));
+    EXPECT_EQ(FSSyncVolume(U("none")), -1);
+    EXPECT_TRUE(Logged("ERROR", "FSSyncVolume: Failed to flush '" + path("none") + "'. No such file or directory\n"));
+}
+
 }  // namespace

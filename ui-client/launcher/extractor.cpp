@@ -17,6 +17,7 @@
 #include <memory>
 #include <string>
 
+#include "file/file-op.h"
 #include "log/log.h"
 #include "notify-adapter.h"
 #include "str-table.h"
@@ -38,6 +39,14 @@ static_assert(kExtractFlags == 8720, "extraction options changed");
 // The text of the string table's row 57 ("desc_skld_env_preparing").
 constexpr int kPreparingStrId = 57;
 
+// The package's version file, relative to the application, and the most of it that is held
+// in memory. It is the installation's commit record: a run that finds it believes the
+// application whole and upgrades nothing, so it is written only once every other entry is
+// durable, and made durable itself last. A power cut at any moment then leaves either no
+// version file, and the next run upgrades again, or a whole application.
+const char kVersionEntry[] = "Contents/Resources/INFO";
+constexpr la_int64_t kVersionFileMax = 1 << 20;
+
 // Owners that free their libarchive object on every path out of an operation.
 struct ReadFree {
     void operator()(archive* a) const { archive_read_free(a); }
@@ -45,8 +54,17 @@ struct ReadFree {
 struct WriteFree {
     void operator()(archive* a) const { archive_write_free(a); }
 };
+struct EntryFree {
+    void operator()(archive_entry* e) const { archive_entry_free(e); }
+};
 using Reader = std::unique_ptr<archive, ReadFree>;
 using Writer = std::unique_ptr<archive, WriteFree>;
+
+// The version file's entry and bytes, kept back until the rest is on disk.
+struct HeldFile {
+    std::unique_ptr<archive_entry, EntryFree> entry;
+    std::string data;
+};
 
 // Package entry names are UTF-8, and libarchive converts them to the character set of the
 // current locale, failing for a name such as "Préférences.strings" under "C" or without any
@@ -124,6 +142,86 @@ Reader OpenHeaderPass(const ustring& dest_dir, const ustring& archive_path) {
     return reader;
 }
 
+// Whether the entry named `name` in the package is the version file as a plain file (a link
+// or a folder of that name is extracted in its place like any other entry).
+bool IsVersionFile(const char* name, archive_entry* entry) {
+    if (std::strncmp(name, "./", 2) == 0)
+        name += 2;
+    return std::strcmp(name, kVersionEntry) == 0 && archive_entry_filetype(entry) == AE_IFREG &&
+           !archive_entry_hardlink(entry);
+}
+
+// Reads the current entry's data into held, in place of extracting it. true, or false logged.
+bool HoldBack(archive* reader, archive_entry* entry, HeldFile& held) {
+    held.entry.reset(archive_entry_clone(entry));
+    held.data.clear();
+    if (!held.entry) {
+        SKLOG(ERROR, kComponent, "Allocate extractor failed\n");
+        return false;
+    }
+    for (;;) {
+        const void* buffer = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        const int r = archive_read_data_block(reader, &buffer, &size, &offset);
+        if (r == ARCHIVE_EOF)
+            return true;
+        if (r != ARCHIVE_OK) {
+            SKLOG(ERROR, kComponent, "archive_read_data_block failed: '%s'\n",
+                  ErrorText(reader).c_str());
+            return false;
+        }
+        if (offset < 0 || offset + static_cast<la_int64_t>(size) > kVersionFileMax) {
+            SKLOG(ERROR, kComponent, "version file '%s' is larger than %lld bytes\n",
+                  archive_entry_pathname(entry), static_cast<long long>(kVersionFileMax));
+            return false;
+        }
+        const size_t end = static_cast<size_t>(offset) + size;
+        if (held.data.size() < end)
+            held.data.resize(end);  // a hole reads as zeros
+        std::memcpy(&held.data[static_cast<size_t>(offset)], buffer, size);
+    }
+}
+
+// Makes every entry written so far durable, then writes the held version file, if any, and
+// makes it and its folder durable. 0, or -1 logged.
+int Commit(archive* writer, const HeldFile& held, const ustring& dest_dir) {
+    if (FSSyncVolume(dest_dir) != 0)
+        return -1;
+    if (!held.entry)
+        return 0;
+    archive_entry* entry = held.entry.get();
+    if (archive_write_header(writer, entry) != ARCHIVE_OK ||
+        archive_write_data(writer, held.data.data(), held.data.size()) !=
+            static_cast<la_ssize_t>(held.data.size()) ||
+        archive_write_finish_entry(writer) != ARCHIVE_OK) {
+        SKLOG(ERROR, kComponent, "writing '%s' failed: '%s'\n", archive_entry_pathname(entry),
+              ErrorText(writer).c_str());
+        return -1;
+    }
+    const ustring path(archive_entry_pathname(entry));
+    return FSSyncPath(path) == 0 && FSSyncPath(FSParentPath(path)) == 0 ? 0 : -1;
+}
+
+// Sends (total, n) on when the percentage it shows changes, and always for the first and the
+// last entry: the bar has 101 positions, and a report per entry would wake the main thread
+// once per file, 100,000 times for a large client.
+class Progress {
+public:
+    explicit Progress(int total) : total_(total) {}
+    void Done(int n) {
+        const int percent = static_cast<int>(static_cast<long long>(n) * 100 / total_);
+        if (n != 1 && n != total_ && percent == shown_)
+            return;
+        shown_ = percent;
+        Notify_Adapter::GetInstance()->UpdateProgress(total_, n);
+    }
+
+private:
+    const int total_;
+    int shown_ = -1;
+};
+
 }  // namespace
 
 int Extractor::Count() {
@@ -194,11 +292,13 @@ int Extractor::Extract() {
         return -1;
     }
 
+    Progress progress(total);
+    HeldFile version_file;
     for (int n = 1;; ++n) {
         archive_entry* entry = nullptr;
         const int r = archive_read_next_header(reader.get(), &entry);
         if (r == ARCHIVE_EOF)
-            return 0;
+            return Commit(writer.get(), version_file, dest_dir);
         // Warnings count as failures: a package must read cleanly.
         if (r != ARCHIVE_OK) {
             SKLOG(ERROR, kComponent, "archive_read_next_header failed: '%s'\n",
@@ -211,23 +311,32 @@ int Extractor::Extract() {
             return -1;
         }
         // Only the entry's own path moves below dest_dir; a hard-link target is left as is.
+        const bool is_version_file = IsVersionFile(name, entry);  // name dies with the rename
         ustring target = dest_dir;
         target += "/";
         target += name;
         archive_entry_set_pathname(entry, target.c_str_utf8());
 
+        if (is_version_file) {
+            if (!HoldBack(reader.get(), entry, version_file))
+                return -1;
+            progress.Done(n);
+            continue;
+        }
         if (archive_read_extract2(reader.get(), entry, writer.get()) != ARCHIVE_OK) {
             // libarchive moves the writer's failure onto the reader here.
             SKLOG(ERROR, kComponent, "archive_read_extract2 failed: '%s'\n",
                   ErrorText(reader.get()).c_str());
             return -1;
         }
-        Notify_Adapter::GetInstance()->UpdateProgress(total, n);
+        progress.Done(n);
         if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
             SKLOG(ERROR, kComponent, "archive_write_finish_entry failed: '%s'\n",
                   ErrorText(writer.get()).c_str());
             return -1;
         }
+        if (archive_entry_filetype(entry) == AE_IFREG && FSSyncNewFile(target) != 0)
+            return -1;
     }
 }
 

@@ -17,9 +17,12 @@ public:
     int Count();
     // Writes each entry's name, one per line, to standard output. 0 or -1.
     int List();
-    // Extracts every entry below dest_dir: sets the dialog label, then reports
-    // (total, n) after each entry. 0, or -1 at the first failure (entries already
-    // written stay on disk; the caller rolls back). An archive without entries fails.
+    // Extracts every entry below dest_dir: sets the dialog label, then reports (total, n)
+    // after an entry whenever the percentage changes, and after the first and the last.
+    // The version file Contents/Resources/INFO is written last, once every other entry is
+    // durable, and made durable itself: 0 means the whole application survives a power cut.
+    // -1 at the first failure, a failed flush included (entries already written stay on
+    // disk; the caller rolls back). An archive without entries fails.
     int Extract();
     // Copies the current entry's data blocks from reader to writer. 0 or -1.
     int copy_data(archive* reader, archive* writer);

@@ -174,7 +174,11 @@ int Service::PrepareUserEnv() {
         }
     }
 
-    if (ExtractPackage() != 0) {
+    // The move aside is made durable before anything is written at APP: a power cut during
+    // the extraction must find the old application under its backup name, not half a tree of
+    // names. A flush that fails counts as a failed extraction.
+    const ustring folder = FSParentPath(app);
+    if ((!backup.empty() && FSSyncPath(folder) != 0) || ExtractPackage() != 0) {
         if (backup.empty()) {
             SKLOG(ERROR, kComponent,
                   "Failed to extract package, and no old installation to rollback\n");
@@ -186,9 +190,11 @@ int Service::PrepareUserEnv() {
         SKLOG(ERROR, kComponent, "Failed to extract package, rollback to old installation\n");
         FSRemove(app, false);
         FSRename(backup, app, false);
+        FSSyncPath(folder);
         return -1;
     }
 
+    // Extract succeeded only once the new application is durable: only now may the old go.
     SKLOG(INFO, kComponent, "user installation is ready, removing backup app\n");
     // Also removes the leftovers that blocked the earlier attempts.
     for (int j = 0; j <= n; ++j)
