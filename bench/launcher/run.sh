@@ -4,19 +4,21 @@
 #   1. a launcher run with no upgrade needed, to the client started and the process ended,
 #      against bench/launcher/bare_qt.cpp (QApplication + QProgressDialog, then quit):
 #      median wall time and peak resident memory (targets: 1.3x and 1.2x);
-#   2. a first installation of a package of 3,000 entries against `bsdtar -tf` plus
-#      `bsdtar -xf` of it (target 1.1x); a full upgrade (stop nothing, back up the old
-#      application, extract the package, remove the backup) against `bsdtar -xf` of the same
-#      package, and against the same steps done with the tools (list, move aside, extract,
-#      remove).
-#   bench/launcher/run.sh [BUILD_DIR[,BUILD_DIR...]] [RUNS]      (defaults: build, 25)
+#   2. durable first installations and upgrades, on a fresh ext4 volume each (a loop-mounted
+#      image), of packages of 3,000 files of 50 KiB, 30,000 of 1 KiB and 100,000 of 64 bytes,
+#      against `bsdtar -xf` followed by `sync -f` (syncfs, as the launcher flushes), and the
+#      upgrades also against `mv` + `bsdtar -xf` + `sync -f` + `rm -rf` (targets: 1.10x at
+#      3,000, 1.15x at 30,000 and 100,000).
+#   bench/launcher/run.sh [BUILD_DIR[,BUILD_DIR...]] [RUNS] [ROUNDS]   (defaults: build, 25, 3)
 # With several build folders (build,build-qt6: Qt 5 and Qt 6), case 1 runs the launchers and
-# bare programs of all of them interleaved; case 2 uses the first folder.
+# bare programs of all of them interleaved; case 2 uses the first folder. Case 2 mounts loop
+# devices, so it needs root; SIZES="files:bytes ..." chooses other packages.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 root=$(pwd)
 IFS=, read -r -a builds <<<"${1:-build}"
 runs="${2:-25}"
+rounds="${3:-3}"
 for build in "${builds[@]}"; do
   cmake --build "$build" --target skelda-launcher launcher_bench_bare_qt >/dev/null
 done
@@ -31,7 +33,10 @@ export XDG_RUNTIME_DIR="$work/runtime"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 export HOME="$work/home"
 mkdir -p "$HOME"
-trap 'rm -rf "$work"' EXIT
+mnt="$work/mnt"
+mkdir "$mnt"
+unmount() { umount "$mnt" 2>/dev/null || true; [ -z "${loop:-}" ] || losetup -d "$loop"; loop=""; }
+trap 'unmount; rm -rf "$work" "${image:-}"' EXIT
 
 # A client that records its pid like the real one and ends at once, so runs leave nothing.
 client="$work/client"
@@ -74,50 +79,65 @@ for i in "${!builds[@]}"; do
        "memory $(ratio "$l_kb" "$q_kb")x (target 1.2x)"
 done
 
-# 2. Full upgrade of 3,000 entries: 30 folders of 99 files of 1 KiB, plus the bundle's own
-# folders and version file (the tool prints the count).
-big="$work/big"
-mkdir -p "$big/Contents/MacOS" "$big/Contents/Resources"
-cp "$client" "$big/Contents/MacOS/skelda-backup-ui"
-head -c 1024 /dev/urandom >"$work/kib"
-for d in $(seq -w 1 30); do
-  mkdir -p "$big/Contents/Resources/d$d"
-  for f in $(seq -w 1 99); do cp "$work/kib" "$big/Contents/Resources/d$d/f$f"; done
+# 2. Durable installations. Each timed run gets a fresh ext4 volume, so that no earlier mass
+# deletion slows its file creation (ext4 skips recently freed inodes; the figures swung 5x on
+# a long-lived volume), and the flushes reach the disk (tmpfs ignores them; the loop device
+# writes past the page cache of its image file). Inode tables and journal are written at
+# mkfs time, not by a kernel thread during the timing.
+image=$(mktemp -p "${BENCH_DISK:-/var/tmp}" skelda-bench-XXXXXX.img)
+fresh_volume() {
+  unmount
+  truncate -s 0 "$image" && truncate -s 2G "$image"
+  mkfs.ext4 -q -F -N 300000 -E lazy_itable_init=0,lazy_journal_init=0 "$image"
+  loop=$(losetup -f --show --direct-io=on "$image")
+  mount "$loop" "$mnt"
+  mkdir -p "$mnt/home/.SkeldaBackup"
+}
+info="$mnt/home/.SkeldaBackup/Skelda.app/Contents/Resources/INFO"
+# An installed build 199 of the same size, made durable untimed: what an upgrade replaces.
+install_older() {
+  HOME="$mnt/home" "$1" >/dev/null 2>&1
+  printf '[Version]\nbuild_version=199\n' >"$info"
+  mkdir "$mnt/app" && bsdtar -xf "$2" -C "$mnt/app" && sync -f "$mnt"
+}
+for size in ${SIZES:-3000:51200 30000:1024 100000:64}; do
+  files=${size%:*} bytes=${size#*:}
+  tree="$work/tree$files"
+  mkdir -p "$tree/Contents/MacOS"
+  cp "$client" "$tree/Contents/MacOS/skelda-backup-ui"
+  python3 - "$tree/Contents/Resources" "$files" "$bytes" <<'PY'
+import os, sys
+root, files, size = sys.argv[1], int(sys.argv[2]), int(sys.argv[3])
+for i in range(files):
+    folder = f"{root}/d{i // 100:04d}"
+    os.makedirs(folder, exist_ok=True)
+    with open(f"{folder}/f{i:06d}", "wb") as out:
+        out.write(os.urandom(size))
+PY
+  tools/make-bundle.sh --launcher "$launcher" --client "$tree" --version 1.0.200 \
+    --out "$work/Big$files.app" >/dev/null
+  exe="$work/Big$files.app/Contents/MacOS/skelda-launcher"
+  package="$work/Big$files.app/Contents/Resources/package/skelda.vpk"
+  rm -rf "$tree"
+  : >"$work/first" && : >"$work/untar" && : >"$work/upgrade" && : >"$work/tools"
+  for _ in $(seq 1 "$rounds"); do
+    fresh_volume
+    HOME="$mnt/home" measure "$exe" >>"$work/first"
+    fresh_volume
+    mkdir "$mnt/x"
+    measure sh -c 'bsdtar -xf "$1" -C "$2" && sync -f "$2"' sh "$package" "$mnt/x" >>"$work/untar"
+    fresh_volume
+    install_older "$exe" "$package"
+    HOME="$mnt/home" measure "$exe" >>"$work/upgrade"
+    [ "$(sed -n 's/^build_version=//p' "$info")" = 200 ] || { echo "upgrade failed" >&2; exit 1; }
+    measure sh -c 'cd "$2" && mv app old && mkdir app && bsdtar -xf "$1" -C app && sync -f . &&
+                   rm -rf old' sh "$package" "$mnt" >>"$work/tools"
+  done
+  unmount
+  f=$(median "$work/first" 1) x=$(median "$work/untar" 1)
+  u=$(median "$work/upgrade" 1) t=$(median "$work/tools" 1)
+  echo "$files files of $bytes bytes (median of $rounds):" \
+       "first installation $(ms "$f") ms, upgrade $(ms "$u") ms |" \
+       "bsdtar -xf + sync $(ms "$x") ms: $(ratio "$f" "$x")x, $(ratio "$u" "$x")x |" \
+       "mv + bsdtar -xf + sync + rm -rf $(ms "$t") ms: upgrade $(ratio "$u" "$t")x"
 done
-rm "$big"/Contents/Resources/d30/f9[5-9]
-tools/make-bundle.sh --launcher "$launcher" --client "$big" --version 1.0.200 \
-  --out "$work/Big.app"
-package="$work/Big.app/Contents/Resources/package/skelda.vpk"
-echo "package entries: $(bsdtar -tf "$package" | wc -l)"
-# The disk decides these times (ext4 slows file creation right after mass deletion, by up to
-# 2x from one round to the next), so each case is interleaved with its references, round by
-# round, and the medians compare.
-rounds=9
-info="$HOME/.SkeldaBackup/Skelda.app/Contents/Resources/INFO"
-mkdir -p "$work/y"
-for _ in $(seq 1 "$rounds"); do
-  # A first installation into an empty per-user installation, against listing plus
-  # extracting with the tools (the launcher also reads the package twice: count, extract).
-  rm -rf "$HOME/.SkeldaBackup"
-  measure "$work/Big.app/Contents/MacOS/skelda-launcher" >>"$work/firsts"
-  rm -rf "$work/x" && mkdir "$work/x"
-  measure sh -c 'bsdtar -tf "$1" >/dev/null && bsdtar -xf "$1" -C "$2"' sh "$package" "$work/x" \
-    >>"$work/lists"
-  # An upgrade of that installation, against bsdtar -xf alone, and against the same steps
-  # done with the tools: count the entries, move the old tree aside, extract, remove it.
-  printf '[Version]\nbuild_version=199\n' >"$info"  # older again: the next run upgrades
-  measure "$work/Big.app/Contents/MacOS/skelda-launcher" >>"$work/upgrades"
-  [ "$(sed -n 's/^build_version=//p' "$info")" = 200 ] || { echo "upgrade failed" >&2; exit 1; }
-  rm -rf "$work/x" && mkdir "$work/x"
-  measure bsdtar -xf "$package" -C "$work/x" >>"$work/untars"
-  measure sh -c 'bsdtar -tf "$1" >/dev/null && mv "$2/app" "$2/old" 2>/dev/null
-                 mkdir "$2/app" && bsdtar -xf "$1" -C "$2/app" && rm -rf "$2/old"' \
-    sh "$package" "$work/y" >>"$work/same"
-done
-f_us=$(median "$work/firsts" 1) x_us=$(median "$work/lists" 1)
-echo "first installation of 3,000 entries (median of $rounds): launcher $(ms "$f_us") ms |" \
-     "bsdtar -tf + bsdtar -xf $(ms "$x_us") ms: $(ratio "$f_us" "$x_us")x (target 1.1x)"
-u_us=$(median "$work/upgrades" 1) t_us=$(median "$work/untars" 1) s_us=$(median "$work/same" 1)
-echo "upgrade of 3,000 entries (median of $rounds): launcher $(ms "$u_us") ms |" \
-     "bsdtar -xf $(ms "$t_us") ms: $(ratio "$u_us" "$t_us")x |" \
-     "count + move + extract + remove with the tools $(ms "$s_us") ms: $(ratio "$u_us" "$s_us")x"

@@ -116,13 +116,24 @@ int OpenToFlush(const char* path) {
 
 }  // namespace
 
-// Linux: nothing per file, one syncfs for the batch. Measured on a fresh ext4 volume, with the
-// same files written each way: fdatasync per file took 18 s where one syncfs took 1 s for
-// 3,000 files of 50 KiB; a sync_file_range hint per file won a little there (0.6 s) but lost
-// on small files (3.3 s against 2.4 s for 30,000 files of 1 KiB, 11 s against 9 s for
-// 100,000 of 64 bytes). syncfs writes back and waits for the whole volume, journal included.
-int StartWriteback(const char* /*path*/) {
-    return 0;
+// Linux: one syncfs for the batch, which writes back and waits for the whole volume, journal
+// included; before it, a writeback hint (sync_file_range, which waits for nothing) for each
+// file of kHintFrom bytes or more, so that the disk is busy while the extraction goes on.
+// Measured on a fresh ext4 volume, the same files written each way: fdatasync per file took
+// 18 s where the one syncfs took 1 s for 3,000 files of 50 KiB, and the hint brought that to
+// 0.6 s; for small files the hint's open and close cost more than the writeback gains (3.3 s
+// against 2.4 s for 30,000 files of 1 KiB).
+constexpr int64_t kHintFrom = 16 * 1024;
+
+int StartWriteback(const char* path, int64_t size) {
+    if (size < kHintFrom)
+        return 0;
+    const int fd = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
+    if (fd < 0)
+        return errno;
+    const int rc = sync_file_range(fd, 0, 0, SYNC_FILE_RANGE_WRITE) == 0 ? 0 : errno;
+    close(fd);
+    return rc;
 }
 
 int FlushVolume(const char* path) {
