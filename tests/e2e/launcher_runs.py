@@ -442,34 +442,28 @@ def full_disk(r, name):
 def same_client_same_bundle(r):
     """The bundle tool's package, INFO and Info.plist do not change with the client files'
     times, modes and creation order, the umask or the account; one changed byte does."""
-    tree, copy, out = r.trees["new"], f"{r.work}/copy", f"{r.work}/out"
-    for path in sorted(glob.glob(f"{tree}/**/*", recursive=True), reverse=True):
+    tree, copy = r.trees["new"], f"{r.work}/copy"
+    files = [p for p in glob.glob(f"{tree}/**", recursive=True) if os.path.isfile(p)]
+    for n, path in enumerate(sorted(files, reverse=True)):
         twin = copy + path[len(tree):]
-        os.makedirs(twin if os.path.isdir(path) else os.path.dirname(twin), exist_ok=True)
-        if os.path.isfile(path):
-            shutil.copy(path, twin)
-            os.chmod(twin, os.stat(path).st_mode | 0o066)
-    for n, path in enumerate(glob.glob(f"{copy}/**", recursive=True)):
-        os.utime(path, (1e9 + n,) * 2)
-    os.makedirs(out)
-    os.chmod(r.work, 0o755)
-    os.chmod(out, 0o777)
+        os.makedirs(os.path.dirname(twin), exist_ok=True)
+        shutil.copy(path, twin)
+        os.chmod(twin, os.stat(path).st_mode | 0o066)
+        os.utime(twin, (1e9 + n,) * 2)
+    os.chmod(r.work, 0o777)
 
     def made(client, name, umask, user=()):
-        subprocess.run([*user, "sh", "-c", f'umask {umask}; exec "$0" "$@"', common.MAKE_BUNDLE,
-                        "--launcher", r.launcher, "--client", client, "--version", NEW,
-                        "--out", f"{out}/{name}.app"], env=r.env(), check=True,
-                       stdout=subprocess.DEVNULL)
-        return [open(f"{out}/{name}.app/Contents/{p}", "rb").read()
+        common.make_bundle(r.launcher, client, NEW, f"{r.work}/{name}.app", prefix=[
+            *user, "sh", "-c", f'umask {umask}; exec "$0" "$@"'])
+        return [open(f"{r.work}/{name}.app/Contents/{p}", "rb").read()
                 for p in ("Resources/package/skelda.vpk", "Resources/INFO", "Info.plist")]
     first = made(tree, "A", "022")
     time.sleep(1.1)  # a time stamp of the run itself, in seconds, would differ
     nobody = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
     check(made(copy, "B", "077", nobody) == first, "the bundles of one client differ")
-    victim = sorted(glob.glob(f"{copy}/Contents/Resources/data/*/*"))[0]
-    data = bytearray(open(victim, "rb").read())
+    data = bytearray(open(twin, "rb").read())
     data[0] ^= 1
-    open(victim, "wb").write(data)
+    open(twin, "wb").write(data)
     check(made(copy, "C", "022")[0] != first[0], "a changed client file left the package as it was")
 
 
