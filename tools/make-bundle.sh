@@ -131,8 +131,8 @@ trap 'rm -rf "$stage" "$list"' EXIT
   sed 's|^\./||' | LC_ALL=C sort >"$list"
 echo Contents/Resources/INFO >>"$list"
 # On macOS, tar would add an AppleDouble "._" entry for every file with extended attributes or
-# ACLs; the package must hold the client's own files only, and none of the attributes that
-# the builder's file system adds (SELinux labels, default ACLs).
-COPYFILE_DISABLE=1 bsdtar -c "${tar_z[@]}" -n --uid 0 --gid 0 --numeric-owner \
-  --no-acls --no-xattrs --no-fflags -f "$res/package/skelda.vpk" -C "$stage" -T "$list"
+# ACLs; the package must hold the client's own files only, and none of the metadata that the
+# builder's system adds (SELinux labels, default ACLs, macOS provenance and quarantine).
+COPYFILE_DISABLE=1 bsdtar -c "${tar_z[@]}" -n --uid 0 --gid 0 --numeric-owner --no-acls \
+  --no-xattrs --no-fflags --no-mac-metadata -f "$res/package/skelda.vpk" -C "$stage" -T "$list"
 echo "bundle: $out (build $build, $(wc -l <"$list") package entries)"
