@@ -15,6 +15,10 @@
 #   --client   an application folder (Contents/...), or a single file that becomes the client
 #              executable Contents/MacOS/skelda-backup-ui (for example the sample client)
 #   --debug    a line of log/launcher.debug; --debug all turns DEBUG on for every component
+# The same client and launcher give the same skelda.vpk, INFO and Info.plist, byte for byte:
+# package entries are owned by 0:0 without names, with modes 0755 (folders, and files with any
+# execute bit) or 0644, dated SOURCE_DATE_EPOCH when set, else the last commit of the
+# repository holding this tool, else 2000-01-01 00:00 UTC; the gzip header holds no time.
 # An existing --out folder is replaced.
 set -euo pipefail
 
@@ -44,10 +48,17 @@ done
 [ -x "$launcher" ] || { echo "make-bundle: no launcher executable at '$launcher'" >&2; exit 1; }
 [ -e "$client" ] || { echo "make-bundle: no client at '$client'" >&2; exit 1; }
 case "$out" in *.app) ;; *) echo "make-bundle: --out must end in .app" >&2; exit 1 ;; esac
-case "$compress" in gzip) tar_z=(-z) ;; none) tar_z=() ;; *) usage ;; esac
+case "$compress" in gzip) tar_z=(-z --options 'gzip:!timestamp') ;; none) tar_z=() ;; *) usage ;; esac
 IFS=. read -r major minor build overlay <<<"$version"
 [[ "$version" =~ ^[0-9]+\.[0-9]+\.[0-9]+(\.[0-9]+)?$ ]] ||
   { echo "make-bundle: bad version '$version'" >&2; exit 1; }
+# The tool runs from its checkout, so that repository is trusted whoever owns it: git would
+# refuse another account's, and the entry times would change with the account.
+epoch=${SOURCE_DATE_EPOCH:-$(git -c safe.directory='*' -C "$here" log -1 --format=%ct 2>/dev/null || true)}
+epoch=${epoch:-946684800}
+[[ "$epoch" =~ ^[0-9]+$ ]] || { echo "make-bundle: bad SOURCE_DATE_EPOCH '$epoch'" >&2; exit 1; }
+# touch -t takes local time, hence TZ below; GNU date reads -d @EPOCH, BSD date -r EPOCH.
+stamp=$(date -u -d "@$epoch" +%Y%m%d%H%M.%S 2>/dev/null || date -u -r "$epoch" +%Y%m%d%H%M.%S)
 
 write_info() {  # the Qt ini version file read by the launcher
   mkdir -p "$(dirname "$1")"
@@ -108,12 +119,20 @@ if [ -n "$(find "$stage" -type f -links +1 -print -quit)" ]; then
   echo "make-bundle: the client holds hard links, which a package must not carry" >&2; exit 1
 fi
 write_info "$stage/Contents/Resources/INFO"
+# Nothing of the builder's files may reach the package: modes and times are reset here, the
+# owner below. Five-digit modes clear set-id bits, which GNU chmod keeps on folders otherwise.
+find "$stage" -type d -exec chmod 00755 {} +
+find "$stage" -type f \( -perm -100 -o -perm -010 -o -perm -001 \) -exec chmod 00755 {} +
+find "$stage" -type f ! -perm 755 -exec chmod 00644 {} +
+TZ=UTC0 find "$stage" -exec touch -h -t "$stamp" {} +
 list="$stage.list"
 trap 'rm -rf "$stage" "$list"' EXIT
 (cd "$stage" && find . -mindepth 1 ! -path ./Contents/Resources/INFO) |
   sed 's|^\./||' | LC_ALL=C sort >"$list"
 echo Contents/Resources/INFO >>"$list"
 # On macOS, tar would add an AppleDouble "._" entry for every file with extended attributes or
-# ACLs; the package must hold the client's own files only.
-COPYFILE_DISABLE=1 bsdtar -c "${tar_z[@]}" -n -f "$res/package/skelda.vpk" -C "$stage" -T "$list"
+# ACLs; the package must hold the client's own files only, and none of the metadata that the
+# builder's system adds (SELinux labels, default ACLs, macOS provenance and quarantine).
+COPYFILE_DISABLE=1 bsdtar -c "${tar_z[@]}" -n --uid 0 --gid 0 --numeric-owner --no-acls \
+  --no-xattrs --no-fflags --no-mac-metadata -f "$res/package/skelda.vpk" -C "$stage" -T "$list"
 echo "bundle: $out (build $build, $(wc -l <"$list") package entries)"

@@ -35,8 +35,9 @@ def make_client_tree(folder, files, size, seed):
             out.write(hashlib.sha256(f"{seed}-{i}".encode()).digest() * (size // 32))
 
 
-def make_bundle(launcher, client, version, out, debug_all=True, compress="gzip"):
-    cmd = [MAKE_BUNDLE, "--launcher", launcher, "--client", client, "--version", version,
+def make_bundle(launcher, client, version, out, debug_all=True, compress="gzip", prefix=()):
+    """Runs the bundle tool (behind `prefix`, a command that runs its arguments)."""
+    cmd = [*prefix, MAKE_BUNDLE, "--launcher", launcher, "--client", client, "--version", version,
            "--out", out, "--compress", compress]
     if debug_all:
         cmd += ["--debug", "all"]

@@ -438,6 +438,35 @@ def full_disk(r, name):
         check("[ERROR] launcher.cpp(" in out, f"stderr lacks the failure: {out[-2000:]}")
 
 
+@case()
+def same_client_same_bundle(r):
+    """The bundle tool's package, INFO and Info.plist do not change with the client files'
+    times, modes and creation order, the umask or the account; one changed byte does."""
+    tree, copy = r.trees["new"], f"{r.work}/copy"
+    files = [p for p in glob.glob(f"{tree}/**", recursive=True) if os.path.isfile(p)]
+    for n, path in enumerate(sorted(files, reverse=True)):
+        twin = copy + path[len(tree):]
+        os.makedirs(os.path.dirname(twin), exist_ok=True)
+        shutil.copy(path, twin)
+        os.chmod(twin, os.stat(path).st_mode | 0o066)
+        os.utime(twin, (1e9 + n,) * 2)
+    os.chmod(r.work, 0o777)
+
+    def made(client, name, umask, user=()):
+        common.make_bundle(r.launcher, client, NEW, f"{r.work}/{name}.app", prefix=[
+            *user, "sh", "-c", f'umask {umask}; exec "$0" "$@"'])
+        return [open(f"{r.work}/{name}.app/Contents/{p}", "rb").read()
+                for p in ("Resources/package/skelda.vpk", "Resources/INFO", "Info.plist")]
+    first = made(tree, "A", "022")
+    time.sleep(1.1)  # a time stamp of the run itself, in seconds, would differ
+    nobody = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
+    check(made(copy, "B", "077", nobody) == first, "the bundles of one client differ")
+    data = bytearray(open(twin, "rb").read())
+    data[0] ^= 1
+    open(twin, "wb").write(data)
+    check(made(copy, "C", "022")[0] != first[0], "a changed client file left the package as it was")
+
+
 def main():
     ap = argparse.ArgumentParser()
     ap.add_argument("--build", required=True)
