@@ -33,9 +33,10 @@ bool IsFileKind(Logger::Type type) {
 
 // The log file opened for appending, unbuffered: each line leaves in one write, so a failed
 // write (a full disk) leaves nothing behind in a buffer to be written later into the middle
-// of another line.
+// of another line. Close-on-exec ("e"): the client, started while the log is open, must not
+// inherit it. Every opening (the first, at rotation, the reopening) comes through here.
 FILE* OpenLogFile(const ustring& path) {
-    FILE* fp = std::fopen(path.c_str(), "a");
+    FILE* fp = std::fopen(path.c_str(), "ae");
     if (fp)
         std::setvbuf(fp, nullptr, _IONBF, 0);
     return fp;

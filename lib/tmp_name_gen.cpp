@@ -42,7 +42,7 @@ void TmpNameGen::unlock() {
 
 void TmpNameGen::get_key(unsigned char* buf, unsigned long size) {
     size_t got = 0;
-    if (FILE* dev = std::fopen("/dev/urandom", "rb")) {
+    if (FILE* dev = std::fopen("/dev/urandom", "rbe")) {
         got = std::fread(buf, 1, kKeySize, dev);
         std::fclose(dev);
     }

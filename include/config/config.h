@@ -26,7 +26,8 @@ public:
     int read(const ustring& path) {
         if (path.empty())
             return -1;
-        FILE* fp = std::fopen(path.c_str_utf8(), "r");
+        // Close-on-exec ("e", glibc and macOS alike): no program started meanwhile gets it.
+        FILE* fp = std::fopen(path.c_str_utf8(), "re");
         if (!fp)
             return -1;
         const int rc = read(fp);
