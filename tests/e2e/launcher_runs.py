@@ -140,9 +140,18 @@ class Run:
             f.write("\n".join([shebang, 'dir="$HOME/.SkeldaBackup"', *lines, rest]))
 
     def expect_clients_inherit_nothing(self):
-        """Every client still running holds descriptors 0 to 2 only. Looked at once it has
-        become its `sleep`; one that does not within 10 s (blocked writing a FIFO ui.pid) is
-        looked at as it is, less the descriptor its script is read through."""
+        """Every client still running holds descriptors 0 to 2 only, for good (a descriptor
+        that goes within a second, such as the locale files `sleep` reads at its start, is
+        its own). Looked at once it has become its `sleep`; one that does not within 10 s
+        (blocked writing a FIFO ui.pid) as it is, less the descriptor its script is read by."""
+        def held(pid, late):
+            try:
+                fds = {int(fd): os.readlink(f"/proc/{pid}/fd/{fd}")
+                       for fd in os.listdir(f"/proc/{pid}/fd")}
+            except (OSError, ValueError):
+                return {}  # ended, or between two files
+            return {fd: t for fd, t in fds.items() if fd > 2 and
+                    not (late and t.endswith("/Contents/MacOS/skelda-backup-ui"))}
         deadline, left = time.time() + 10, set(self.clients())
         while left:
             late = time.time() > deadline
@@ -150,12 +159,14 @@ class Run:
                 try:
                     if not late and open(f"/proc/{pid}/comm").read().strip() != "sleep":
                         continue
-                    fds = {int(fd): os.readlink(f"/proc/{pid}/fd/{fd}")
-                           for fd in os.listdir(f"/proc/{pid}/fd")}
-                except (OSError, ValueError):
-                    fds = {}  # ended, or between two files
-                extra = {fd: t for fd, t in fds.items() if fd > 2 and not
-                         (late and t.endswith("/Contents/MacOS/skelda-backup-ui"))}
+                except OSError:
+                    pass
+                extra = held(pid, late)
+                for _ in range(10):
+                    if not extra:
+                        break
+                    time.sleep(0.1)
+                    extra = {fd: t for fd, t in held(pid, late).items() if extra.get(fd) == t}
                 check(not extra, f"client {pid} inherited {extra}")
                 left.discard(pid)
             time.sleep(0.02)
