@@ -334,7 +334,10 @@ def every_descriptor_of_the_launcher_is_close_on_exec(r):
     check(f"{r.user}/log/launcher.log" in seen and
           f"{r.work}/New.app/Contents/Resources/package/skelda.vpk" in seen and
           f"{r.user}/upgrade.lock" in seen, f"not all seen: {sorted(seen)}")
-    check(all(seen.values()), f"without close-on-exec: {[t for t, ok in seen.items() if not ok]}")
+    # Less the launcher's own /proc entries: the leak check of AddressSanitizer reads them at
+    # the exit (the launcher itself reads only others', close-on-exec).
+    bad = [t for t, ok in seen.items() if not ok and not t.startswith(f"/proc/{proc.pid}/")]
+    check(not bad, f"without close-on-exec: {bad}")
 
 
 @case()
