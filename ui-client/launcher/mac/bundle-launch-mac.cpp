@@ -21,7 +21,8 @@ int UnregisterBundle(const QString& app_path) {
 // Services has the application started by launchd, as the Finder or the Dock would, not as a
 // child of the launcher. The client therefore inherits neither the launcher's ignored SIGPIPE
 // (main.cpp) nor its signal mask nor any of its descriptors. lsregister, above, is our child
-// (QProcess); it is short-lived and its own signals do not matter here.
+// (QProcess) and may keep SIGPIPE ignored: a short-lived tool whose output we do not read,
+// which then gets EPIPE instead of dying on a dead standard output.
 bool OpenBundle(const QString& app_path) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(app_path));
 }
