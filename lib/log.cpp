@@ -6,8 +6,10 @@
 #include <cstdlib>
 #include <ctime>
 #include <string>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <syslog.h>
+#include <unistd.h>
 
 #include "config/config.h"
 
@@ -33,11 +35,16 @@ bool IsFileKind(Logger::Type type) {
 
 // The log file opened for appending, unbuffered: each line leaves in one write, so a failed
 // write (a full disk) leaves nothing behind in a buffer to be written later into the middle
-// of another line.
+// of another line. Close-on-exec: the client, started while the log is open, must not
+// inherit it (O_CLOEXEC, not fopen's "e", which macOS's C library is reported to ignore).
+// Every opening (the first, at rotation, the reopening) comes through here.
 FILE* OpenLogFile(const ustring& path) {
-    FILE* fp = std::fopen(path.c_str(), "a");
+    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    FILE* fp = fd < 0 ? nullptr : fdopen(fd, "a");
     if (fp)
         std::setvbuf(fp, nullptr, _IONBF, 0);
+    else if (fd >= 0)
+        close(fd);
     return fp;
 }
 

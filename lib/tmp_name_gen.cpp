@@ -1,6 +1,8 @@
 #include "tmp_name_gen/tmp_name_gen.h"
 
+#include <fcntl.h>
 #include <sys/time.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <utility>
@@ -42,9 +44,11 @@ void TmpNameGen::unlock() {
 
 void TmpNameGen::get_key(unsigned char* buf, unsigned long size) {
     size_t got = 0;
-    if (FILE* dev = std::fopen("/dev/urandom", "rb")) {
-        got = std::fread(buf, 1, kKeySize, dev);
-        std::fclose(dev);
+    const int dev = open("/dev/urandom", O_RDONLY | O_CLOEXEC);  // no program started inherits it
+    if (dev >= 0) {
+        const ssize_t n = read(dev, buf, kKeySize);
+        got = n > 0 ? static_cast<size_t>(n) : 0;
+        close(dev);
     }
     if (got < static_cast<size_t>(kKeySize)) {
         // Good enough to keep names apart; the names need not be secret.

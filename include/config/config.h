@@ -9,6 +9,9 @@
 // Blank lines and "#" lines are skipped; a later duplicate key wins. One malformed line
 // fails the whole read and leaves the map empty, so nobody works on half a file.
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstring>
 #include <map>
@@ -26,9 +29,15 @@ public:
     int read(const ustring& path) {
         if (path.empty())
             return -1;
-        FILE* fp = std::fopen(path.c_str_utf8(), "r");
-        if (!fp)
+        // Close-on-exec, so that no program started meanwhile gets it: O_CLOEXEC, not fopen's
+        // "e", which glibc honours and macOS's C library is reported to ignore.
+        const int fd = open(path.c_str_utf8(), O_RDONLY | O_CLOEXEC);
+        FILE* fp = fd < 0 ? nullptr : fdopen(fd, "r");
+        if (!fp) {
+            if (fd >= 0)
+                close(fd);
             return -1;
+        }
         const int rc = read(fp);
         std::fclose(fp);
         return rc;

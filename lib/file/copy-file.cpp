@@ -41,13 +41,13 @@ int CopyBytes(int in, int out, char* buf) {
 }  // namespace
 
 int FSCopy(const ustring& src, const ustring& dst, bool remove_source) {
-    int in = open(src.c_str(), O_RDONLY);
+    int in = open(src.c_str(), O_RDONLY | O_CLOEXEC);
     if (in < 0) {
         int err = errno;
         SKLOG(ERROR, kComponent, "CopyFile: open(%s): %s (%d)\n", src.c_str(), strerror(err), err);
         return -1;
     }
-    int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    int out = open(dst.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     if (out < 0) {
         int err = errno;
         SKLOG(ERROR, kComponent, "CopyFile: open(%s): %s (%d)\n", dst.c_str(), strerror(err), err);

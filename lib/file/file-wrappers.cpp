@@ -1,6 +1,7 @@
 // Thin wrappers around single system calls: times, owner, links, access, file-system type,
 // temporary files.
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -113,8 +114,8 @@ int FSMktemp(const ustring& dir, ustring& path) {
     char pattern[kTempPatternSize];
     std::snprintf(pattern, sizeof(pattern), "%s/XXXXXX", dir.c_str());
     char made[kTempPatternSize];
-    std::memcpy(made, pattern, sizeof(made));  // mkstemp rewrites it even when it fails
-    int fd = mkstemp(made);
+    std::memcpy(made, pattern, sizeof(made));  // mkostemp rewrites it even when it fails
+    int fd = mkostemp(made, O_CLOEXEC);
     if (fd < 0) {
         SKLOG(ERROR, kComponent, "mkstemp(%s): %s\n", pattern, strerror(errno));
         return -1;

@@ -2,11 +2,15 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 #include "file-op-internal.h"
 #include "file/file-op.h"
+#include "log/log.h"
 
 namespace {
+
+const char kComponent[] = "file_op_debug";
 
 // rename() gave EXDEV for a folder: recreate it at dst and move the children one by one.
 int MoveTreeAcross(const ustring& src, const ustring& dst, bool case_sensitive) {
@@ -38,10 +42,13 @@ int FSRename(const ustring& src, const ustring& dst, bool case_sensitive) {
         return -2;
     if (rename(src.c_str(), dst.c_str()) == 0)
         return 0;
-    if (errno == ENAMETOOLONG)
-        return -100;
-    if (errno != EXDEV)
-        return -3;
+    const int err = errno;
+    if (err != EXDEV) {
+        // The system's reason, which the callers' own lines (the service's) do not carry.
+        SKLOG(ERROR, kComponent, "FSRename: rename('%s' -> '%s'): %s (%d)\n", src.c_str(),
+              dst.c_str(), strerror(err), err);
+        return err == ENAMETOOLONG ? -100 : -3;
+    }
     switch (info.type) {
     case FT_DIR:
         return MoveTreeAcross(src, dst, case_sensitive);

@@ -1,4 +1,5 @@
 // The logger: start-up default, line format, thresholds, rotation, two threads.
+#include <fcntl.h>
 #include <gmock/gmock.h>
 
 #include <cstdlib>
@@ -43,6 +44,8 @@ protected:
     }
     void Warn(const char* text) { Logger::LogMsg(Logger::WARNING, "launcher_debug", "%s\n", text); }
     const time_t from = std::time(nullptr);
+    // The client, started while the log is open, must not inherit it.
+    static bool CloseOnExec() { return fcntl(fileno(Logger::log_fp), F_GETFD) & FD_CLOEXEC; }
 };
 
 // Before Initialize the logger writes WARNING and worse, time-stamped, to standard error. CTest
@@ -90,8 +93,10 @@ TEST_F(Log, MessageReachingTheLimitEndsTheRotatedFile) {
     WriteFile(log, std::string(Logger::kRotateSize - line - 1, 'x') + "\n");  // size taken from it
     WriteFile(log + "_0", "zero"), WriteFile(log + "_48", "oldest");  // of 50: all move up, one goes
     Start("launcher.log");
+    EXPECT_TRUE(CloseOnExec()) << "at the first opening";
     const size_t open_before = OpenFiles();
     Warn("probe 1"), Warn("probe 2"), Warn("probe 3");
+    EXPECT_TRUE(CloseOnExec()) << "after the rotation";
     EXPECT_EQ(OpenFiles(), open_before) << "the file rotated away is closed";
     EXPECT_EQ(ReadFile(log + "_0").size(), size_t(Logger::kRotateSize));
     EXPECT_TRUE(Stamped(Lines(log + "_0").back(), "probe 1\n", from));
@@ -100,6 +105,7 @@ TEST_F(Log, MessageReachingTheLimitEndsTheRotatedFile) {
     EXPECT_EQ(size_t(*Logger::log_size), 2 * line);
     ASSERT_EQ(std::rename(log.c_str(), (log + "_moved").c_str()), 0);  // by someone else
     Logger::ReloadLogFile();
+    EXPECT_TRUE(CloseOnExec()) << "after the reopening";
     Warn("probe 4");
     EXPECT_TRUE(Lines(log).size() == 1 && size_t(*Logger::log_size) == line) << "a new file at the path";
     Logger::Destroy();

@@ -26,6 +26,12 @@ int UnregisterBundle(const QString& app_path) {
 // this runs on the worker thread while the main thread is busy, and a forked child of a
 // threaded process must not allocate, which QProcess::startDetached does (it hung under
 // AddressSanitizer). glibc's posix_spawn reports a failed exec as its result.
+// The client gets what a program started afresh gets: no signal blocked, and every signal at
+// its default disposition (POSIX_SPAWN_SETSIGDEF with the full set), whatever the launcher
+// changed (it ignores SIGPIPE, main.cpp): an ignored signal would otherwise stay ignored
+// across the exec. (glibc's own signals 32 and 33, below SIGRTMIN, which no caller can name,
+// are left ignored by glibc's posix_spawn itself; a program on glibc sets them up anew.) Its
+// descriptors are 0 to 2 alone: everything the launcher opens is close-on-exec.
 bool OpenBundle(const QString& app_path) {
     const QByteArray pid_file = QFile::encodeName(QFileInfo(app_path).path() + "/ui.pid");
     if (RunningClient(pid_file.constData()) > 0)
