@@ -60,7 +60,11 @@ pid_t RunningClient(const ustring& path) {
     if (pid <= 0)
         return 0;
     // A clock set back after the file was written: every process would look older than it.
-    if (written > std::time(nullptr)) {
+    // Read from the fine clock: a file's time may come from it, and time() reads a coarse
+    // clock that can lag it by a tick, so a file written just now could look dated ahead.
+    struct timespec now = {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    if (written > now.tv_sec) {
         SKLOG(NOTE, kComponent, "pid file '%s' not trusted: dated in the future\n", path.c_str());
         return 0;
     }
