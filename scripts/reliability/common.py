@@ -22,14 +22,15 @@ def launcher_binary(build_dir):
     return path
 
 
-def make_client_tree(folder, files, size, seed):
-    """A client application folder: the sample client plus `files` filler files."""
+def make_client_tree(folder, files, size, seed, per_folder=200):
+    """A client application folder: the sample client plus `files` filler files,
+    `per_folder` to a folder."""
     macos = os.path.join(folder, "Contents", "MacOS")
     os.makedirs(macos)
     shutil.copy(SAMPLE_CLIENT, os.path.join(macos, "skelda-backup-ui"))
     os.chmod(os.path.join(macos, "skelda-backup-ui"), 0o755)
     for i in range(files):
-        sub = os.path.join(folder, "Contents", "Resources", "data", f"d{i // 200:03d}")
+        sub = os.path.join(folder, "Contents", "Resources", "data", f"d{i // per_folder:03d}")
         os.makedirs(sub, exist_ok=True)
         with open(os.path.join(sub, f"f{i:05d}.bin"), "wb") as out:
             out.write(hashlib.sha256(f"{seed}-{i}".encode()).digest() * (size // 32))
@@ -140,6 +141,14 @@ def new_home(parent, name="home"):
     return home
 
 
+def fresh_copy(folder, work, prefix):
+    """A copy of folder (a template home), at a new name in work."""
+    home = tempfile.mkdtemp(prefix=prefix, dir=work)
+    shutil.rmtree(home)
+    shutil.copytree(folder, home, symlinks=True)
+    return home
+
+
 def end_first_client(home):
     """Ends the client that a first installation started, and drops its pid file. The
     client starts detached and writes that file itself: wait for it first, so that no late
@@ -150,3 +159,32 @@ def end_first_client(home):
         time.sleep(0.05)
     kill_processes_of_home(home)
     os.remove(pid_file)
+
+
+class Upgrade:
+    """An upgrade from build 100 to build 200 of a client of `files` filler files, set up in
+    work: the bundles Old.app and New.app, `template`, a home with build 100 installed by its
+    own launcher (a first installation, its client stopped, no log folder), and the tree
+    digests `old` of that installation and `new` of the package that New.app ships."""
+
+    def __init__(self, work, launcher_bin, files, size, per_folder=200):
+        old_tree, new_tree = os.path.join(work, "old-client"), os.path.join(work, "new-client")
+        make_client_tree(old_tree, files, size, "old", per_folder)
+        make_client_tree(new_tree, files, size, "new", per_folder)
+        self.old_launcher = make_bundle(launcher_bin, old_tree, "1.0.100", f"{work}/Old.app")
+        self.new_launcher = make_bundle(launcher_bin, new_tree, "1.0.200", f"{work}/New.app")
+
+        self.template = os.path.join(work, "template")
+        os.makedirs(self.template)
+        subprocess.run([self.old_launcher], env=env_for(self.template), check=True,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=120)
+        end_first_client(self.template)
+        self.user = os.path.join(self.template, ".SkeldaBackup")
+        shutil.rmtree(os.path.join(self.user, "log"))
+        self.old = tree_digest(os.path.join(self.user, "Skelda.app"))
+
+        self.reference = os.path.join(work, "reference")
+        os.makedirs(self.reference)
+        subprocess.run(["bsdtar", "-xf", f"{work}/New.app/Contents/Resources/package/skelda.vpk",
+                        "-C", self.reference], check=True)
+        self.new = tree_digest(self.reference)

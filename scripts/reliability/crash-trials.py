@@ -60,9 +60,7 @@ def start_client(home):
 
 
 def run_trial(args, work, template, launcher, old, new, delay):
-    home = tempfile.mkdtemp(prefix="trial-", dir=work)
-    shutil.rmtree(home)
-    shutil.copytree(template, home, symlinks=True)
+    home = common.fresh_copy(template, work, "trial-")
     user = os.path.join(home, ".SkeldaBackup")
     env = common.env_for(home)
     client = start_client(home)
@@ -99,9 +97,7 @@ def run_trial(args, work, template, launcher, old, new, delay):
 
 def time_upgrade(work, template, launcher, with_client=True):
     """Seconds of one whole upgrade, with or without a running client to stop first."""
-    home = tempfile.mkdtemp(dir=work)
-    shutil.rmtree(home)
-    shutil.copytree(template, home, symlinks=True)
+    home = common.fresh_copy(template, work, "timing-")
     client = start_client(home) if with_client else None
     start = time.time()
     subprocess.run([launcher], env=common.env_for(home), check=True,
@@ -135,27 +131,8 @@ def main():
     common.adopt_orphans()
     work = tempfile.mkdtemp(prefix="skelda-crash-")
     try:
-        old_tree, new_tree = os.path.join(work, "old-client"), os.path.join(work, "new-client")
-        common.make_client_tree(old_tree, args.files, 4096, "old")
-        common.make_client_tree(new_tree, args.files, 4096, "new")
-        old_launcher = common.make_bundle(launcher_bin, old_tree, "1.0.100", f"{work}/Old.app")
-        new_launcher = common.make_bundle(launcher_bin, new_tree, "1.0.200", f"{work}/New.app")
-
-        # The template home: the old client installed by its own launcher (a first
-        # installation), with the client it started stopped again.
-        template = os.path.join(work, "template")
-        os.makedirs(template)
-        subprocess.run([old_launcher], env=common.env_for(template), check=True,
-                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=120)
-        common.end_first_client(template)
-        user = os.path.join(template, ".SkeldaBackup")
-        shutil.rmtree(os.path.join(user, "log"))
-        old = common.tree_digest(os.path.join(user, "Skelda.app"))
-        reference = os.path.join(work, "reference")
-        os.makedirs(reference)
-        subprocess.run(["bsdtar", "-xf", f"{work}/New.app/Contents/Resources/package/skelda.vpk",
-                        "-C", reference], check=True)
-        new = common.tree_digest(reference)
+        up = common.Upgrade(work, launcher_bin, args.files, 4096)
+        template, new_launcher, old, new = up.template, up.new_launcher, up.old, up.new
 
         timings = [measure(work, template, new_launcher)]
         print(f"crash trials: {args.trials} trials, seed {args.seed}, {args.files} files, "
