@@ -29,6 +29,7 @@ packages=(
   # Chinese (simplified and traditional), Japanese and Korean.
   fonts-liberation fonts-wqy-microhei
   procps util-linux hyperfine time python3
+  strace  # records the file operations of a run for the power-cut trials
   locales  # locale sources for localedef
 )
 
