@@ -12,7 +12,8 @@ The persistence model (that of ext4's ordered journal, simplified):
   - namespace operations (create, mkdir, rename, unlink, rmdir, link, symlink, truncate)
     persist in the order they were made: after a cut at moment t, a prefix of them
     persists, of any length from the last barrier before t up to t. Every fsync,
-    fdatasync, syncfs and sync is a barrier for the namespace operations before it;
+    fdatasync, syncfs and sync is a barrier for the namespace operations made before it
+    began;
   - a file's data persists once an fsync or fdatasync of it, or a syncfs or sync, came
     after its last write; sync_file_range only starts the writeback and makes nothing
     durable. Any subset of the other files may come back empty: the name is there, the
@@ -23,8 +24,10 @@ Not covered: namespace operations persisting out of order, a write torn inside a
 drive that acknowledges a flush it keeps in its cache, file systems other than ext4's
 ordered mode, and the client's own files.
 
-The moments: always right after the extraction (before the first removal in a backup),
-right after the backup's removal and after the end of the run, then seeded random places;
+The moments: always right after the extraction (its last write, before the first removal
+in a backup), right after the backup's removal and after the end of the run, with every
+namespace operation made so far persisted; then seeded random places between any two
+recorded calls, with a persisted prefix drawn between the last barrier and the cut;
 for each, all unsynced files lost, none lost, and two seeded random subsets.
 --no-flush records the run with every flush turned into a no-op (strace's syscall
 injection): what a launcher without its flushes would leave."""
@@ -214,16 +217,16 @@ def starting_tree(home, snapshot):
 
 class Record:
     """The recorded run, as the model sees it: `ops`, the namespace operations in order;
-    `data`, the writes and flushes, each with the number of namespace operations made
-    before it; `barriers`, for each flush that is a barrier, that number and the number
-    made before the flush began, which it makes durable."""
+    `data`, the writes and flushes in order, each with the number of namespace operations
+    made before it (`positions`). A flush also holds the number made before it began: those
+    it makes durable, as a barrier."""
 
     def __init__(self, calls, home, snapshot):
         self.home = home
         self.start, next_id = starting_tree(home, snapshot)
         cwd = home
         self.live = self.start.copy()
-        self.ops, self.data, self.barriers = [], [], []
+        self.ops, self.data = [], []
         self.injected = self.sync_hints = 0
         ops_before = []  # namespace operations made before each call completed
         for name, args, ret, start in calls:
@@ -238,6 +241,7 @@ class Record:
                 continue
             # A flush is a barrier for the namespace operations made before it began.
             next_id = self.call(name, args, ret, cwd, next_id, ops_before[start])
+        self.positions = [d[0] for d in self.data]
 
     def path(self, args, i, dirfd=None, cwd=None):
         """The absolute path of string argument i, relative to the folder of argument
@@ -316,35 +320,31 @@ class Record:
         elif name in ("fsync", "fdatasync"):
             path = self.fd_path(args[0])
             node = self.live.lookup(path) if path and modelled(home, path) else None
-            self.data.append((len(self.ops), "flush", node.id if node else None, None))
-            self.barriers.append((len(self.ops), began))
+            self.data.append((len(self.ops), "flush", node.id if node else None, began))
         elif name in ("syncfs", "sync"):
-            self.data.append((len(self.ops), "flush-all", None, None))
-            self.barriers.append((len(self.ops), began))
+            self.data.append((len(self.ops), "flush-all", None, began))
         elif name == "sync_file_range":
             self.sync_hints += 1
         return next_id
 
-    def files_at(self, p):
-        """For a cut before namespace operation p: the size of each written file then, and
-        the set of those whose data is not durable."""
-        size, durable = {}, {}
-        for pos, kind, ident, value in self.data[:bisect.bisect_right(
-                [d[0] for d in self.data], p)]:
+    def files_at(self, d):
+        """For a cut after d writes and flushes: the size of each written file then, the set
+        of those whose data is not durable, and the namespace operations made durable by a
+        barrier."""
+        size, durable, barrier = {}, {}, 0
+        for pos, kind, ident, value in self.data[:d]:
             if kind == "write":
                 how, n = value
                 now = size.get(ident, 0)
                 size[ident] = now + n if how == "add" else max(now, n) if how == "at" else n
                 durable[ident] = False
-            elif kind == "flush" and ident in durable:
-                durable[ident] = True
-            elif kind == "flush-all":
-                durable = dict.fromkeys(durable, True)
-        return size, {i for i, d in durable.items() if not d}
-
-    def barrier_before(self, p):
-        """The namespace operations that a barrier made durable by a cut after p of them."""
-        return max((b for pos, b in self.barriers if pos <= p), default=0)
+            else:
+                barrier = max(barrier, value)
+                if kind == "flush-all":
+                    durable = dict.fromkeys(durable, True)
+                elif ident in durable:
+                    durable[ident] = True
+        return size, {i for i, ok in durable.items() if not ok}, barrier
 
 
 # ---- States: built as real homes, then started ----
@@ -444,29 +444,37 @@ def record_run(args, up, work):
 
 
 def cuts(record, rng):
-    """(label, cut before namespace operation p, operations persisted k): the named moments
-    first, then seeded random ones."""
-    n = len(record.ops)
+    """(label, p, d): a cut after p namespace operations and d writes and flushes, the named
+    moments first, then seeded random ones."""
+    n, pos = len(record.ops), record.positions
     removal = [i for i, op in enumerate(record.ops) if op[0] in ("unlink", "rmdir") and
                os.path.relpath(op[1], os.path.join(record.home, ".SkeldaBackup")).startswith(
                    APP + "_tmp")]
-    extracted = removal[0] if removal else n
-    removed = removal[-1] + 1 if removal else n
-    for label, p in (("right after the extraction", extracted),
-                     ("right after the backup removal", removed), ("after the run's end", n)):
-        yield label, p, p
+    first = removal[0] if removal else n
+    # The extraction ends with its last write before the first removal in the backup.
+    writes = [i for i in range(bisect.bisect_right(pos, first)) if record.data[i][1] == "write"]
+    if writes:
+        yield "right after the extraction", pos[writes[-1]], writes[-1] + 1
+    if removal:
+        after = removal[-1] + 1
+        yield "right after the backup removal", after, bisect.bisect_left(pos, after)
+    yield "after the run's end", n, len(record.data)
     while True:
         p = rng.randint(0, n)
-        yield "at a random place", p, rng.randint(record.barrier_before(p), p)
+        yield "at a random place", p, rng.randint(bisect.bisect_left(pos, p),
+                                                  bisect.bisect_right(pos, p))
 
 
 def states(record, rng, count):
-    """Up to count distinct states: (label, p, k, size, unsynced, lost)."""
+    """Up to count distinct states: (label, p, d, k, size, unsynced, lost), where k is the
+    number of namespace operations persisted: all of them at the named moments, a number
+    between the last barrier and the cut at the others."""
     seen, out = set(), []
-    for tries, (label, p, k) in enumerate(cuts(record, rng)):
+    for tries, (label, p, d) in enumerate(cuts(record, rng)):
         if len(out) >= count or tries > 20 * count:
             return out
-        size, unsynced = record.files_at(p)
+        size, unsynced, barrier = record.files_at(d)
+        k = p if label != "at a random place" else rng.randint(barrier, p)
         tree = record.start.copy()
         for op in record.ops[:k]:
             tree.apply(op)
@@ -477,10 +485,10 @@ def states(record, rng, count):
             q = rng.random()
             subsets.append({i for i in unsynced if rng.random() < q})
         for lost in (subsets[0], set(unsynced), set(), subsets[1]):
-            key = (k, p, frozenset(lost))
+            key = (k, d, frozenset(lost))
             if key not in seen and len(out) < count:
                 seen.add(key)
-                out.append((label, p, k, size, unsynced, lost))
+                out.append((label, p, d, k, size, unsynced, lost))
     return out
 
 
@@ -513,7 +521,7 @@ def main():
               f"{flushes} flushes, {record.sync_hints} writeback hints, {record.injected} "
               f"calls made no-ops", flush=True)
         chosen = states(record, rng, args.states)
-        for i, (label, p, k, size, unsynced, lost) in enumerate(chosen):
+        for i, (label, p, d, k, size, unsynced, lost) in enumerate(chosen):
             home = os.path.join(work, f"state-{i:03d}")
             unknown = build_state(record, up.template, home, k, size, lost, finals)
             run = subprocess.run([up.new_launcher], env=common.env_for(home), cwd=home,
@@ -524,7 +532,8 @@ def main():
             if run.returncode != 0 or common.tree_digest(os.path.join(user, APP)) != up.new:
                 failed.append(i)
                 print(f"  state {i}: cut {label}, after {p} of {len(record.ops)} namespace "
-                      f"operations, {k} persisted; {len(lost)} of {len(unsynced)} unsynced "
+                      f"operations ({k} persisted) and {d} of {len(record.data)} writes and "
+                      f"flushes; {len(lost)} of {len(unsynced)} unsynced "
                       f"files lost{f', {unknown} of unknown contents' if unknown else ''}: "
                       f"{describe(user, up.reference, run.returncode)}", flush=True)
             if not (args.keep and i in failed):
