@@ -28,7 +28,8 @@ The moments: always right after the extraction (its last write, before the first
 in a backup), right after the backup's removal and after the end of the run, with every
 namespace operation made so far persisted; then seeded random places between any two
 recorded calls, with a persisted prefix drawn between the last barrier and the cut;
-for each, all unsynced files lost, none lost, and two seeded random subsets.
+for each, a seeded random subset of the unsynced files lost, all of them, none, and all
+but the one written last.
 --no-flush records the run with every flush turned into a no-op (strace's syscall
 injection): what a launcher without its flushes would leave."""
 
@@ -328,15 +329,16 @@ class Record:
         return next_id
 
     def files_at(self, d):
-        """For a cut after d writes and flushes: the size of each written file then, the set
-        of those whose data is not durable, and the namespace operations made durable by a
-        barrier."""
+        """For a cut after d writes and flushes: the size of each written file then, those
+        whose data is not durable (in the order of their last writes), and the namespace
+        operations made durable by a barrier."""
         size, durable, barrier = {}, {}, 0
         for pos, kind, ident, value in self.data[:d]:
             if kind == "write":
                 how, n = value
                 now = size.get(ident, 0)
                 size[ident] = now + n if how == "add" else max(now, n) if how == "at" else n
+                durable.pop(ident, None)
                 durable[ident] = False
             else:
                 barrier = max(barrier, value)
@@ -344,7 +346,7 @@ class Record:
                     durable = dict.fromkeys(durable, True)
                 elif ident in durable:
                     durable[ident] = True
-        return size, {i for i, ok in durable.items() if not ok}, barrier
+        return size, [i for i, ok in durable.items() if not ok], barrier
 
 
 # ---- States: built as real homes, then started ----
@@ -479,12 +481,10 @@ def states(record, rng, count):
         for op in record.ops[:k]:
             tree.apply(op)
         present = {node.id for path, node in tree.walk() if node.kind == "f"}
-        unsynced = sorted(unsynced & present)
-        subsets = []
-        for _ in range(2):  # each file lost with a chance drawn afresh for the subset
-            q = rng.random()
-            subsets.append({i for i in unsynced if rng.random() < q})
-        for lost in (subsets[0], set(unsynced), set(), subsets[1]):
+        unsynced = [i for i in unsynced if i in present]
+        q = rng.random()  # each file lost with this chance
+        for lost in ({i for i in unsynced if rng.random() < q}, set(unsynced), set(),
+                     set(unsynced[:-1])):
             key = (k, d, frozenset(lost))
             if key not in seen and len(out) < count:
                 seen.add(key)
