@@ -366,7 +366,10 @@ def build_state(record, template, home, k, size, lost, finals):
         if not modelled(record.home, path):
             continue
         path = os.path.join(home, os.path.relpath(path, record.home))
-        source = node.source or finals.get(node.id)
+        # Contents and mode: those before the run for an old inode that was not truncated,
+        # else those of the inode at the end of the recorded run.
+        old = node.source and node.id not in truncated
+        source = node.source if old else finals.get(node.id)
         if node.kind == "l":
             os.symlink(node.target, path)
         elif node.kind == "d":
@@ -374,7 +377,7 @@ def build_state(record, template, home, k, size, lost, finals):
             if source:
                 os.chmod(path, os.stat(source).st_mode & 0o7777)
         else:
-            if node.source and node.id not in truncated:
+            if old:
                 shutil.copy2(node.source, path)
                 continue
             if node.id in lost:
@@ -422,7 +425,8 @@ def describe(user, reference, ran):
 
 
 def record_run(args, up, work):
-    """Runs the launcher of New.app once under strace; returns the Record and the home."""
+    """Runs the launcher of New.app once under strace; returns the Record, and where each
+    inode ended up (to read its contents from)."""
     home = common.fresh_copy(up.template, work, "recorded-")
     trace = os.path.join(work, "trace")
     cmd = ["strace", "-f", "-y", "-qq", "-s", "0", "--detach-on=execve", "-o", trace,
@@ -440,8 +444,7 @@ def record_run(args, up, work):
         raise SystemExit("the recorded run did not install the package: nothing to cut")
     # The home before the run was a copy of the template, which is left as it was.
     record = Record(read_record(trace), home, up.template)
-    # Where each new inode ended up, to read its contents from.
-    finals = {node.id: path for path, node in record.live.walk() if node.source is None}
+    finals = {node.id: path for path, node in record.live.walk()}
     return record, finals
 
 
