@@ -314,8 +314,8 @@ class Record:
             count = int(ret.split()[0])
             if name in ("ftruncate", "truncate"):
                 self.truncate(path, node, int(args[1]))
-            elif name.startswith("pwrite"):
-                self.data.append((len(self.ops), "write", node.id, ("at", int(args[-1]) + count)))
+            elif name.startswith("pwrite"):  # the offset is the fourth argument of all three
+                self.data.append((len(self.ops), "write", node.id, ("at", int(args[3]) + count)))
             else:
                 self.data.append((len(self.ops), "write", node.id, ("add", count)))
         elif name in ("fsync", "fdatasync"):
