@@ -94,12 +94,6 @@ fresh_volume() {
   mkdir -p "$mnt/home/.SkeldaBackup"
 }
 info="$mnt/home/.SkeldaBackup/Skelda.app/Contents/Resources/INFO"
-# An installed build 199 of the same size, made durable untimed: what an upgrade replaces.
-install_older() {
-  HOME="$mnt/home" "$1" >/dev/null 2>&1
-  printf '[Version]\nbuild_version=199\n' >"$info"
-  mkdir "$mnt/app" && bsdtar -xf "$2" -C "$mnt/app" && sync -f "$mnt"
-}
 for size in ${SIZES:-3000:51200 30000:1024 100000:64}; do
   files=${size%:*} bytes=${size#*:}
   tree="$work/tree$files"
@@ -126,10 +120,15 @@ PY
     fresh_volume
     mkdir "$mnt/x"
     measure sh -c 'bsdtar -xf "$1" -C "$2" && sync -f "$2"' sh "$package" "$mnt/x" >>"$work/untar"
+    # The upgrades replace an installed build 199 of the same size, made durable untimed.
     fresh_volume
-    install_older "$exe" "$package"
+    HOME="$mnt/home" "$exe" >/dev/null 2>&1
+    printf '[Version]\nbuild_version=199\n' >"$info"
+    sync -f "$mnt"
     HOME="$mnt/home" measure "$exe" >>"$work/upgrade"
     [ "$(sed -n 's/^build_version=//p' "$info")" = 200 ] || { echo "upgrade failed" >&2; exit 1; }
+    fresh_volume
+    mkdir "$mnt/app" && bsdtar -xf "$package" -C "$mnt/app" && sync -f "$mnt"
     measure sh -c 'cd "$2" && mv app old && mkdir app && bsdtar -xf "$1" -C app && sync -f . &&
                    rm -rf old' sh "$package" "$mnt" >>"$work/tools"
   done
