@@ -12,7 +12,8 @@
 #   bench/launcher/run.sh [BUILD_DIR[,BUILD_DIR...]] [RUNS] [ROUNDS]   (defaults: build, 25, 3)
 # With several build folders (build,build-qt6: Qt 5 and Qt 6), case 1 runs the launchers and
 # bare programs of all of them interleaved; case 2 uses the first folder. Case 2 mounts loop
-# devices, so it needs root; SIZES="files:bytes ..." chooses other packages.
+# devices, so it needs root; SIZES="files:bytes ..." chooses other packages, COMPRESS=none
+# an uncompressed one.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 root=$(pwd)
@@ -109,6 +110,7 @@ for i in range(files):
         out.write(os.urandom(size))
 PY
   tools/make-bundle.sh --launcher "$launcher" --client "$tree" --version 1.0.200 \
+    --compress "${COMPRESS:-gzip}" \
     --out "$work/Big$files.app" >/dev/null
   exe="$work/Big$files.app/Contents/MacOS/skelda-launcher"
   package="$work/Big$files.app/Contents/Resources/package/skelda.vpk"
