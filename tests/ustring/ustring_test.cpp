@@ -93,7 +93,9 @@ TEST(Ustring, SearchesAgreeInEveryArgumentForm) {
         {'r', "abcbc", "c", 99, 4}, {'o', "abcbc", "c", 3, 4}, {'o', "ab\xC3\xA9", "\xA9\xC3", 0, 2},
         {'n', "abc", "", 2, 2}, {'n', "abba c", "ab", 0, 4}, {'l', "abcbc", "b", 2, 1},
         {'l', "abc", "xa", npos, 0}, {'L', "abcbc", "", 2, 2}, {'L', "abc", "abc", npos, npos},
-        {'l', "abcbc", "c", npos, 4}};
+        {'l', "abcbc", "c", npos, 4}, {'f', "abc", "c", 2, 2}, {'f', "abc", "c", 3, npos}, {'r', "abc", "c", 3, 2},
+        {'o', "abc", "c", 3, npos}, {'n', "abc", "x", 3, npos}, {'l', "abc", "c", 3, 2}, {'L', "abc", "x", 3, 2},
+        {'l', "abc", "a", 0, 0}, {'L', "abc", "b", 0, 0}, {'r', "abc", "a", 0, 0}};  // from either end
     for (const auto& r : rows) {
         SCOPED_TRACE(std::string(1, r.op) + " in '" + r.text + "' of '" + r.arg + "'");
         const ustring t(r.text);
@@ -109,7 +111,8 @@ TEST(Ustring, OrderIsTheFirstByteDifference) {
     const struct { const char *a, *b; size_t n; bool fold; int expected; } rows[] = {
         {"ab", "abc", npos, false, -'c'}, {"abc", "ab", npos, false, 'c'},
         {"\xC3\xA9", "e", npos, false, 0xC3 - 'e'}, {"abcd", "abxy", 3, false, 'c' - 'x'},
-        {"abcd", "abxy", 2, false, 0}, {"a", "b", 0, false, 0}, {"ABC", "abc", npos, true, 0},
+        {"abcd", "abxy", 2, false, 0}, {"a", "b", 0, false, 0}, {"ab", "ab", 3, false, 0},
+        {"ab", "abc", 3, false, -'c'}, {"ABC", "abc", npos, true, 0},
         {"Z", "[", npos, true, 'z' - '['}, {"Ab", "aBc", npos, true, -'c'},
         {"\xC3\x89", "\xC3\xA9", npos, true, 0x89 - 0xA9}};  // only ASCII letters fold
     for (const auto& r : rows) {
