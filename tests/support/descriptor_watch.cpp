@@ -1,4 +1,4 @@
-// Fails the test that leaves a descriptor open: the targets in /proc/self/fd before and after.
+// Fails the test that leaves a descriptor open: /proc/self/fd before and after each test.
 // Sockets and anonymous inodes are left out: Qt opens them lazily for the life of a thread or of
 // the process (the event dispatcher's eventfd, inotify, display and D-Bus connections), while
 // the code under test opens only files, folders and pipes.
@@ -12,15 +12,15 @@
 namespace skelda_test {
 namespace {
 
-std::map<int, std::string> OpenDescriptors() {
+std::map<int, std::string> OpenFiles() {  // descriptor -> what it is open on
     std::map<int, std::string> open;
     DIR* dir = opendir("/proc/self/fd");
+    char target[4096];
     for (dirent* e; dir && (e = readdir(dir));) {
-        char target[4096];
-        const int fd = atoi(e->d_name);
         const ssize_t n = readlinkat(dirfd(dir), e->d_name, target, sizeof target);
-        if (e->d_name[0] != '.' && fd != dirfd(dir) && n >= 0)
-            open[fd] = std::string(target, size_t(n));
+        const std::string what(target, n > 0 ? size_t(n) : 0);
+        if (n > 0 && atoi(e->d_name) != dirfd(dir) && what.rfind("socket:", 0) && what.rfind("anon_inode:", 0))
+            open[atoi(e->d_name)] = what;
     }
     if (dir)
         closedir(dir);
@@ -28,15 +28,12 @@ std::map<int, std::string> OpenDescriptors() {
 }
 
 class DescriptorWatch : public ::testing::EmptyTestEventListener {
-    void OnTestStart(const ::testing::TestInfo&) override { before_ = OpenDescriptors(); }
+    void OnTestStart(const ::testing::TestInfo&) override { before_ = OpenFiles(); }
     // End events reach the listeners in reverse order: this one before the printer.
     void OnTestEnd(const ::testing::TestInfo&) override {
-        for (const auto& [fd, target] : OpenDescriptors()) {
-            const auto was = before_.find(fd);
-            const bool qt = target.rfind("socket:", 0) == 0 || target.rfind("anon_inode:", 0) == 0;
-            if (!qt && (was == before_.end() || was->second != target))
-                ADD_FAILURE() << "descriptor " << fd << " (" << target << ") left open by the test";
-        }
+        for (const auto& [fd, what] : OpenFiles())
+            if (before_[fd] != what)
+                ADD_FAILURE() << "descriptor " << fd << " (" << what << ") left open by the test";
     }
     std::map<int, std::string> before_;
 };

@@ -11,29 +11,22 @@
 class TmpNameGenProbe {  // friend of TmpNameGen
 public:
     static const unsigned char* State() { return TmpNameGen::getInstance()->state; }
-    // The first name of a generator built as a new process builds its own, in zeroed storage.
-    static std::string FirstName() {
-        static TmpNameGen fresh;
-        return fresh.getTmpName().c_str();
+    // The first name that a child draws from a generator built as a new process builds its own.
+    static std::string FirstNameInAChild() {
+        int out[2];
+        char name[8] = {};
+        if (pipe(out) == 0 && fork() == 0) {
+            static TmpNameGen fresh;  // in zeroed static storage
+            _exit(write(out[1], fresh.getTmpName().c_str(), 8) == 8 ? 0 : 1);
+        }
+        close(out[1]);
+        const bool got = read(out[0], name, 8) == 8;
+        close(out[0]), wait(nullptr);
+        return got ? std::string(name, 8) : "none";
     }
 };
 
 namespace {
-
-std::string FirstNameInAChild() {
-    int out[2];
-    char name[16];
-    if (pipe(out) != 0)
-        return "no pipe";
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(write(out[1], TmpNameGenProbe::FirstName().c_str(), 8) == 8 ? 0 : 1);
-    close(out[1]);
-    const ssize_t n = read(out[0], name, sizeof name);
-    close(out[0]);
-    waitpid(child, nullptr, 0);
-    return std::string(name, n > 0 ? size_t(n) : 0);
-}
 
 TEST(TmpName, IsEightDistinctCharactersSpellingTheNextSixKeystreamBytesOfRc4) {
     const std::string abc = "0123456789abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ-_";
@@ -51,8 +44,8 @@ TEST(TmpName, IsEightDistinctCharactersSpellingTheNextSixKeystreamBytesOfRc4) {
         ASSERT_TRUE(name.size() == 8 && spelled == want && seen.insert(name).second)
             << name << ": new, six bits a character, first byte first";
     }
-    const std::string first = FirstNameInAChild(), second = FirstNameInAChild();
-    EXPECT_TRUE(first.size() == 8 && first != second) << first << ", " << second << ": one key each";
+    const std::string first = TmpNameGenProbe::FirstNameInAChild(), second = TmpNameGenProbe::FirstNameInAChild();
+    EXPECT_TRUE(first != "none" && first != second) << first << ", " << second << ": one key each";
     // The key comes from the device, and RC4 matches the known vector of key "Wiki".
     unsigned char a[256] = {}, b[256] = {}, key[256], state[256], out[5];
     TmpNameGen::get_key(a, sizeof(a)), TmpNameGen::get_key(b, sizeof(b));
