@@ -262,7 +262,8 @@ def main():
                 equal.append(rc != 0)
             if rc == 0:
                 survived[listed].append(f"{path}:{no}: {what}: {new_line.strip()}")
-            print(f"[{tried}/{args.faults}] {verdict} {path}:{no} {what}", flush=True)
+            print(f"[{tried}/{args.faults}] {verdict} {path}:{no} {what}"
+                  + (" (listed as equivalent)" if listed else ""), flush=True)
         finally:
             with open(target, "w", encoding="utf-8") as fh:
                 fh.write(original)
