@@ -106,6 +106,8 @@ TEST_F(FileOp, FoldersAreMadeLevelByLevelUnlessSomethingElseIsInTheWay) {
     for (size_t i = 0; i < std::size(empty); ++i)
         EXPECT_EQ(empty[i], -1) << i;
     EXPECT_EQ(ReadFile(path("op.log")), log);
+    EXPECT_TRUE(FSMKDir(U("real/data/x"), true) == -1 &&
+                Logged("ERROR", "FSMKDir: Failed to to file info '" + path("real/data/x") + "'\n"));
     target = U("real/data/b");
     EXPECT_EQ(FSMKDirP(target, &stop, false, FS_MKDIR_DEFAULT_MODE), -1);
     EXPECT_EQ(stop, target.c_str() + target.length());
