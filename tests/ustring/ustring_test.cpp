@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <cstring>
+#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -42,6 +43,9 @@ TEST(Ustring, GrowsToExactlyTheLastNeedCopiesItselfSafelyAndStaysInRange) {
     EXPECT_STREQ(s2.append("abc", 10).append("defg", 2).append('z', 2).c_str(), "abcdezz");
     EXPECT_STREQ((s2.assign(std::string("hello world"), 6, 3) + '/' + U(u"\u00e9")).c_str(), "wor/\xC3\xA9");
     EXPECT_STREQ(s2.c_str(), "wor") << "operator+ builds a copy";
+    std::istringstream words(" one\t");  // a word, then nothing: emptied
+    words >> s2;
+    EXPECT_TRUE(s2 == ustring("one") && !(words >> s2) && s2.empty());
     const ustring abc("abc");
     EXPECT_TRUE(abc.substr(3).empty() && abc.substr(1, 10) == ustring("bc"));
     EXPECT_THROW(abc.substr(4), std::out_of_range);
