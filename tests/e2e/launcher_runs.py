@@ -329,7 +329,7 @@ info = lambda build: b"[Version]\nbuild_version=" + build.encode() + b"\n"  # no
 
 VERSIONS = {  # APP's INFO (None: none), its client, the shipped INFO (None: none): upgrade?
     "no_client_older_target": (info("500"), False, info("400"), True),
-    "no_source_info": (None, True, info("5"), True),
+    "no_source_info": (None, True, info("1"), True),  # the least build above none
     "equal_builds": (info("400"), True, info("400"), False),
     "never_downgrades": (info("401"), True, info("400"), False),
     "trailing_letter": (info("1203x"), True, info("1203"), False),
