@@ -336,6 +336,7 @@ VERSIONS = {  # APP's INFO (None: none), its client, the shipped INFO (None: non
     "letters_only": (info("abc"), True, info("1"), True),
     "forty_digit_target": (info("2147483646"), True, info("1234567890" * 4), True),
     "negative_source_no_target_info": (info("-1"), True, None, True),
+    "zero_source_no_target_info": (info("0"), True, None, False),
     "target_info_binary": (info("100"), True, bytes(range(256)) * 64, False),
     # a version file that cannot be read counts as build 0, with a warning naming it
     "target_info_unreadable": (info("100"), True, "mode 000, read by nobody", False),
