@@ -111,6 +111,7 @@ TEST_F(FileOp, FoldersAreMadeLevelByLevelUnlessSomethingElseIsInTheWay) {
     target = U("real/data/b");
     EXPECT_EQ(FSMKDirP(target, &stop, false, FS_MKDIR_DEFAULT_MODE), -1);
     EXPECT_EQ(stop, target.c_str() + target.length());
+    EXPECT_EQ(FSMKDirP(target, nullptr, false, 0700), -1) << "with an exact mode too";
     EXPECT_TRUE(Logged("INFO", "FSMKDirP: path: " + path("real/data") +
                                    " is symbolic link pointed to folder\n"));
     errno = 0;
