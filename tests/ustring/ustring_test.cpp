@@ -70,6 +70,8 @@ TEST(Ustring, EveryChangeOfTheBytesInvalidatesTheUtf16Text) {
     s.assign("caf").append(U(u"\u00e9 au lait"), 2).append(static_cast<unsigned short>('!'), 2) += U(u"\u00df");
     EXPECT_STREQ(s.c_str(), "caf\xC3\xA9 !!\xC3\x9F");
     EXPECT_STREQ(s.assign(s.c_str_utf16(), 2).c_str(), "ca");
+    ustring fresh;  // a new text's cache holds nothing yet
+    EXPECT_TRUE(*fresh.c_str_utf16() == 0 && fresh.append(static_cast<unsigned short>('x'), 1) == ustring("x"));
     ustring t("\t\n x y\r\n");
     t.trim(" \t\r\n"), t.ltrim(ustring("x")), t.rtrim(ustring(""));
     EXPECT_STREQ(t.c_str(), " y");
