@@ -104,6 +104,11 @@ TEST_F(ServiceTest, CopyPathCopiesATreeAndWithoutAPerUserFolderLaunchingAndExtra
     ASSERT_EQ(symlink("INFO", path("src/Contents/Resources/link").c_str()), 0);
     ASSERT_EQ(MacService().FSCopyPath(path("src").c_str(), path("dst").c_str()), 0);
     EXPECT_EQ(std::system(("diff -r '" + path("src") + "' '" + path("dst") + "'").c_str()), 0);
+    MakeDirs(path("blocked/Contents/Resources/INFO"));  // a folder where the file goes
+    const std::pair<const char*, const char*> failing[] = {
+        {"none", "x"}, {"src/Contents/Resources/INFO", "none/x"}, {"src", "blocked"}};
+    for (const auto& [from, to] : failing)
+        EXPECT_EQ(MacService().FSCopyPath(path(from).c_str(), path(to).c_str()), -1) << from << " to " << to;
     CaptureLog();
     Put(user(), "a file where the per-user installation goes");
     MacService().PostUpgrade();
