@@ -9,12 +9,15 @@ deleted call. After each fault it rebuilds incrementally and runs the tests with
 slow label: the unit cases first, the end-to-end ones only when those pass. A fault is
 caught when a test fails or the run hangs; a fault that does not compile is replaced by the
 next one in the seeded order. Prints the share caught and the faults that survive, by file
-and line.
+and line, and the same share again without the faults that scripts/mutation-equivalent.txt
+lists as changing no behaviour. Without --seed a fresh seed is drawn and printed.
 
     python3 scripts/mutation.py --seed 17 --faults 120
+    python3 scripts/mutation.py --only lib/file --all
     python3 scripts/mutation.py --seed 17 --faults 120 --sanitize address --survivors-of LOG
 
-The second form tries again, under AddressSanitizer + UBSan, only the faults that a first
+The second form tries every fault of one folder (or file), in the seeded order. The third
+form tries again, under AddressSanitizer + UBSan, only the faults that a first
 run's output LOG lists as survivors: the leaks and over-reads that only a sanitizer sees.
 """
 import argparse
@@ -41,6 +44,34 @@ SWAPS = [
 INT = re.compile(r"(?<![\w.])(\d+)(?![\w.])")
 CALL = re.compile(r"^(\s*)[\w:.>-]+(<[\w:, ]*>)?\(.*\);\s*$")
 IF = re.compile(r"\b(if|while) \(")
+EQUIVALENT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "mutation-equivalent.txt")
+
+
+def read_equivalent(path):
+    """The list's faults as (file, line number, fault, faulty line, why)."""
+    entries = []
+    with open(path, encoding="utf-8") as fh:
+        for text in fh:
+            m = re.match(r"^(\S+?):(\d+): (.*?): (.*) => (.*)$", text.rstrip("\n"))
+            if m:
+                entries.append((m[1], int(m[2]), m[3], m[4].strip(), m[5]))
+            elif text.strip() and not text.startswith("#"):
+                sys.exit(f"{path}: not 'FILE:LINE: FAULT: FAULTY LINE => WHY': {text.strip()}")
+    return entries
+
+
+def equivalent_faults(candidates, entries):
+    """The candidates that the entries name. An entry is found by its file, fault and faulty
+    line's text, so that lines added above it do not lose it; among equal texts the nearest
+    line wins. Also returns the entries that name no candidate."""
+    found, stale = set(), []
+    for path, no, what, text, _ in entries:
+        same = [c for c in candidates if (c[0], c[3], c[2].strip()) == (path, what, text)]
+        if same:
+            found.add(min(same, key=lambda c: abs(c[1] - no)))
+        else:
+            stale.append(f"{path}:{no}: {what}")
+    return found, stale
 
 
 def code_part(line):
@@ -124,13 +155,17 @@ def sh(cmd, cwd, timeout=None):
 
 def main():
     ap = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    ap.add_argument("--seed", type=int, default=13)
+    ap.add_argument("--seed", type=int, help="order of the faults (default: a fresh one, printed)")
     ap.add_argument("--faults", type=int, default=80)
+    ap.add_argument("--only", metavar="PATH", help="only the faults of this file or folder")
+    ap.add_argument("--all", action="store_true", help="every fault, not a sample")
     ap.add_argument("--work", help="folder for the copy (default: a new temporary folder)")
     ap.add_argument("--sanitize", choices=("address", "thread"), help="a sanitized build")
     ap.add_argument("--survivors-of", metavar="LOG",
                     help="try only the faults that this earlier run's output lists as survivors")
     args = ap.parse_args()
+    if args.seed is None:
+        args.seed = random.SystemRandom().randrange(1, 10 ** 9)
     retry = None
     if args.survivors_of:
         with open(args.survivors_of, encoding="utf-8") as fh:
@@ -183,6 +218,14 @@ def main():
             with open(os.path.join(src, f), encoding="utf-8") as fh:
                 candidates += faults_of(f, fh.read().splitlines(keepends=True))
     random.Random(args.seed).shuffle(candidates)
+    equivalent, stale = equivalent_faults(candidates, read_equivalent(EQUIVALENT))
+    for entry in stale:
+        print(f"equivalent list: no such fault any more: {entry}", file=sys.stderr)
+    if args.only:  # filtered after the shuffle: the other faults keep their order
+        only = args.only.rstrip("/")
+        candidates = [c for c in candidates if c[0] == only or c[0].startswith(only + "/")]
+    if args.all:
+        args.faults = len(candidates)
     if retry is not None:
         candidates = [c for c in candidates if (c[0], str(c[1]), c[3]) in retry]
         args.faults = min(args.faults, len(candidates))
@@ -190,7 +233,9 @@ def main():
           f"test limits {limits[0]:.0f} s and {limits[1]:.0f} s"
           + (f"; sanitizer {args.sanitize}" if args.sanitize else ""), flush=True)
 
-    caught, survived, tried = 0, [], 0
+    caught, tried = 0, 0
+    equal = []  # whether each fault of the equivalent list was caught
+    survived = {False: [], True: []}  # by whether the list names the fault
     for path, no, new_line, what in candidates:
         if tried == args.faults:
             break
@@ -212,18 +257,25 @@ def main():
                     break
             verdict = "caught" if rc != 0 else "SURVIVED"
             caught += rc != 0
+            listed = (path, no, new_line, what) in equivalent
+            if listed:
+                equal.append(rc != 0)
             if rc == 0:
-                survived.append(f"{path}:{no}: {what}: {new_line.strip()}")
-            print(f"[{tried}/{args.faults}] {verdict} {path}:{no} {what}", flush=True)
+                survived[listed].append(f"{path}:{no}: {what}: {new_line.strip()}")
+            print(f"[{tried}/{args.faults}] {verdict} {path}:{no} {what}"
+                  + (" (listed as equivalent)" if listed else ""), flush=True)
         finally:
             with open(target, "w", encoding="utf-8") as fh:
                 fh.write(original)
 
     sh(["cmake", "--build", build, "-j", jobs], work)
+    real, real_caught = tried - len(equal), caught - sum(equal)
     print(f"\ncaught {caught} of {tried} faults ({100 * caught / max(tried, 1):.0f}%), "
-          f"seed {args.seed}")
-    if survived:
-        print("survived:\n  " + "\n  ".join(sorted(survived)))
+          f"seed {args.seed}; without the {len(equal)} listed as equivalent: {real_caught} of "
+          f"{real} ({100 * real_caught / max(real, 1):.0f}%)")
+    for listed, title in ((False, "survived"), (True, "survived, listed as equivalent")):
+        if survived[listed]:
+            print(f"{title}:\n  " + "\n  ".join(sorted(survived[listed])))
     if not args.work:
         shutil.rmtree(work, ignore_errors=True)
 

@@ -476,13 +476,14 @@ info = lambda build: b"[Version]\nbuild_version=" + build.encode() + b"\n"  # no
 
 VERSIONS = {  # APP's INFO (None: none), its client, the shipped INFO (None: none): upgrade?
     "no_client_older_target": (info("500"), False, info("400"), True),
-    "no_source_info": (None, True, info("5"), True),
+    "no_source_info": (None, True, info("1"), True),  # the least build above none
     "equal_builds": (info("400"), True, info("400"), False),
     "never_downgrades": (info("401"), True, info("400"), False),
     "trailing_letter": (info("1203x"), True, info("1203"), False),
     "letters_only": (info("abc"), True, info("1"), True),
     "forty_digit_target": (info("2147483646"), True, info("1234567890" * 4), True),
     "negative_source_no_target_info": (info("-1"), True, None, True),
+    "zero_source_no_target_info": (info("0"), True, None, False),
     "target_info_binary": (info("100"), True, bytes(range(256)) * 64, False),
     # a version file that cannot be read counts as build 0, with a warning naming it
     "target_info_unreadable": (info("100"), True, "mode 000, read by nobody", False),

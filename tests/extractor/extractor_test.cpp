@@ -3,6 +3,7 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <gtest/gtest.h>
+#include <locale.h>
 
 #include <numeric>
 #include <regex>
@@ -113,9 +114,11 @@ TEST_P(FormatTest, TheVersionFileLandsLastAndReportsFollowThePercentage) {
 // block into a writer of the caller's.
 TEST_P(FormatTest, ListPrintsTheNamesAndCopyDataCopiesEveryBlock) {
     const std::string big(100000, 'b'), pkg = Make(GetParam(), {E::File("a", "1st"), E::File("dir/b", big)});
+    const locale_t caller = uselocale(static_cast<locale_t>(nullptr));
     ::testing::internal::CaptureStdout();
     EXPECT_EQ(For(pkg).List(), 0);
     EXPECT_EQ(::testing::internal::GetCapturedStdout(), "a\ndir/b\n");
+    EXPECT_EQ(uselocale(static_cast<locale_t>(nullptr)), caller) << "names read as UTF-8, then the locale given back";
     std::unique_ptr<archive, int (*)(archive*)> r(archive_read_new(), archive_read_free),
         w(archive_write_disk_new(), archive_write_free);
     archive_read_support_filter_all(r.get()), archive_read_support_format_all(r.get());

@@ -6,11 +6,13 @@
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
@@ -68,6 +70,7 @@ protected:
         MakeDirs(home());
         setenv("HOME", home().c_str(), 1);
     }
+    void TearDown() override { Logger::Destroy(), TempDirTest::TearDown(); }
     std::string home() const { return path("Jürgen Ölmann 日本"); }
     std::string user() const { return home() + "/.SkeldaBackup"; }
     std::string app() const { return user() + "/Skelda.app"; }
@@ -101,6 +104,11 @@ TEST_F(ServiceTest, CopyPathCopiesATreeAndWithoutAPerUserFolderLaunchingAndExtra
     ASSERT_EQ(symlink("INFO", path("src/Contents/Resources/link").c_str()), 0);
     ASSERT_EQ(MacService().FSCopyPath(path("src").c_str(), path("dst").c_str()), 0);
     EXPECT_EQ(std::system(("diff -r '" + path("src") + "' '" + path("dst") + "'").c_str()), 0);
+    MakeDirs(path("blocked/Contents/Resources/INFO"));  // a folder where the file goes
+    const std::pair<const char*, const char*> failing[] = {
+        {"none", "x"}, {"src/Contents/Resources/INFO", "none/x"}, {"src", "blocked"}};
+    for (const auto& [from, to] : failing)
+        EXPECT_EQ(MacService().FSCopyPath(path(from).c_str(), path(to).c_str()), -1) << from << " to " << to;
     CaptureLog();
     Put(user(), "a file where the per-user installation goes");
     MacService().PostUpgrade();
@@ -113,6 +121,31 @@ TEST_F(ServiceTest, CopyPathCopiesATreeAndWithoutAPerUserFolderLaunchingAndExtra
 
 // ---- stopping the client ----
 
+// The lock is taken at once when free, whatever errno says; held by another run, it is waited
+// for in flock with one INFO line, not polled, and then taken.
+TEST_F(ServiceTest, SecondRunWaitsForTheInstallationLockWithoutSpinning) {
+    CaptureLog();
+    errno = EWOULDBLOCK;  // left by an earlier call
+    { const InstallationLock lock(user().c_str()); }
+    EXPECT_TRUE(Exists(user() + "/upgrade.lock") && Logged().empty()) << Logged();
+    const int first = open((user() + "/upgrade.lock").c_str(), O_RDWR | O_CLOEXEC);
+    ASSERT_EQ(flock(first, LOCK_EX), 0);
+    std::atomic<bool> taken{false};
+    std::thread second([&] { const InstallationLock lock(user().c_str()); taken = true; });
+    clockid_t cpu;
+    timespec used{};
+    ASSERT_EQ(pthread_getcpuclockid(second.native_handle(), &cpu), 0);
+    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    clock_gettime(cpu, &used);
+    EXPECT_FALSE(taken);
+    EXPECT_LT(used.tv_sec * 1000 + used.tv_nsec / 1000000, 50) << "ms of CPU time while waiting";
+    close(first);
+    second.join();
+    EXPECT_TRUE(taken);
+    EXPECT_EQ(Logged(), "[INFO] another run is changing the installation, waiting for '" + user() +
+                            "/upgrade.lock'\n") << "then no warning: the lock was taken";
+}
+
 // A pid file whose process has ended, or is older than the process with its number (the
 // client crashed or the machine restarted, and the number went to another program).
 TEST_F(ServiceTest, PidFilesOfNoProcessOrOfOneStartedAfterThemSignalNothing) {
@@ -122,18 +155,14 @@ TEST_F(ServiceTest, PidFilesOfNoProcessOrOfOneStartedAfterThemSignalNothing) {
     ASSERT_EQ(waitpid(gone, nullptr, 0), gone);
     EXPECT_LT(Stop("pid=" + std::to_string(gone) + "\n"), 0.5);
     EXPECT_TRUE(g_kills.empty() && Logged().empty());
-    errno = EWOULDBLOCK;  // left by an earlier call: a free installation lock is taken without a word
-    { const InstallationLock lock(user().c_str()); }
-    EXPECT_TRUE(Exists(user() + "/upgrade.lock") && Logged().empty()) << Logged();
     ChildProcess unrelated(SIG_DFL);
-    const size_t open_files = OpenFiles();
     for (const time_t age : {time_t{3600}, time(nullptr)}) {  // an hour ago; before the boot
         EXPECT_LT(Stop("pid=" + std::to_string(unrelated.pid) + "\n", age), 0.5);
         EXPECT_TRUE(g_kills.empty());
         EXPECT_EQ(Logged(), "[NOTE] pid file '" + user() + "/ui.pid' not trusted: process " +
                             std::to_string(unrelated.pid) + " started after it was written\n");
     }
-    EXPECT_TRUE(!unrelated.ended && OpenFiles() == open_files);
+    EXPECT_FALSE(unrelated.ended);
     // Pid files naming no process: 0 and negative ids address process groups; 2^32 + INT32_MAX
     // would wrap to a pid_t that no process has.
     for (const char* file : {"", "port=80\n", "pid=0\n", "pid=-1\n", "pid=abc\n", "pid=6442450943\n"}) {
@@ -143,6 +172,16 @@ TEST_F(ServiceTest, PidFilesOfNoProcessOrOfOneStartedAfterThemSignalNothing) {
     g_gone_at_term = unrelated.pid;
     EXPECT_LT(Stop("pid=" + std::to_string(unrelated.pid) + "\n"), 0.5);
     EXPECT_TRUE(g_kills == (Kills{{unrelated.pid, SIGTERM}}) && Logged().empty());
+    for (const auto make : {mkfifo, mkdir}) {  // never read: the descriptor opened is closed
+        CaptureLog();
+        const std::string pid_file = user() + "/ui.pid";
+        RemoveTree(pid_file);
+        ASSERT_EQ(make(pid_file.c_str(), 0600), 0);
+        g_kills.clear();
+        MacService().StopService();
+        EXPECT_TRUE(g_kills.empty());
+        EXPECT_EQ(Logged(), "[NOTE] pid file '" + pid_file + "' not trusted: not a regular file\n");
+    }
 }
 
 TEST_F(ServiceTest, ClientEndingOneAndAHalfSecondsAfterTermCostsTwoPauses) {

@@ -6,6 +6,7 @@
 #include <QApplication>
 
 #include "str-table.h"
+#include "temp_dir.h"
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
@@ -14,5 +15,6 @@ int main(int argc, char** argv) {
     Q_INIT_RESOURCE(texts);
     StrTable::InitStrTable();
     ::testing::InitGoogleTest(&argc, argv);
+    skelda_test::WatchDescriptors();
     return RUN_ALL_TESTS();
 }

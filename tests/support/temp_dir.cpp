@@ -53,8 +53,4 @@ void RemoveTree(const std::string& path) {
     std::filesystem::remove_all(path, ec);
 }
 
-size_t OpenFiles() {
-    return std::distance(std::filesystem::directory_iterator("/dev/fd"), {});
-}
-
 }  // namespace skelda_test

@@ -1,5 +1,7 @@
 // Temporary names: alphabet and encoding of the keystream, RC4 itself, the key.
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstring>
 #include <set>
@@ -9,6 +11,19 @@
 class TmpNameGenProbe {  // friend of TmpNameGen
 public:
     static const unsigned char* State() { return TmpNameGen::getInstance()->state; }
+    // The first name that a child draws from a generator built as a new process builds its own.
+    static std::string FirstNameInAChild() {
+        int out[2];
+        char name[8] = {};
+        if (pipe(out) == 0 && fork() == 0) {
+            static TmpNameGen fresh;  // in zeroed static storage
+            _exit(write(out[1], fresh.getTmpName().c_str(), 8) == 8 ? 0 : 1);
+        }
+        close(out[1]);
+        const bool got = read(out[0], name, 8) == 8;
+        close(out[0]), wait(nullptr);
+        return got ? std::string(name, 8) : "none";
+    }
 };
 
 namespace {
@@ -29,6 +44,8 @@ TEST(TmpName, IsEightDistinctCharactersSpellingTheNextSixKeystreamBytesOfRc4) {
         ASSERT_TRUE(name.size() == 8 && spelled == want && seen.insert(name).second)
             << name << ": new, six bits a character, first byte first";
     }
+    const std::string first = TmpNameGenProbe::FirstNameInAChild(), second = TmpNameGenProbe::FirstNameInAChild();
+    EXPECT_TRUE(first != "none" && first != second) << first << ", " << second << ": one key each";
     // The key comes from the device, and RC4 matches the known vector of key "Wiki".
     unsigned char a[256] = {}, b[256] = {}, key[256], state[256], out[5];
     TmpNameGen::get_key(a, sizeof(a)), TmpNameGen::get_key(b, sizeof(b));

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include <cstring>
+#include <sstream>
 #include <stdexcept>
 
 namespace {
@@ -42,6 +43,9 @@ TEST(Ustring, GrowsToExactlyTheLastNeedCopiesItselfSafelyAndStaysInRange) {
     EXPECT_STREQ(s2.append("abc", 10).append("defg", 2).append('z', 2).c_str(), "abcdezz");
     EXPECT_STREQ((s2.assign(std::string("hello world"), 6, 3) + '/' + U(u"\u00e9")).c_str(), "wor/\xC3\xA9");
     EXPECT_STREQ(s2.c_str(), "wor") << "operator+ builds a copy";
+    std::istringstream words(" one\t");  // a word, then nothing: emptied
+    words >> s2;
+    EXPECT_TRUE(s2 == ustring("one") && !(words >> s2) && s2.empty());
     const ustring abc("abc");
     EXPECT_TRUE(abc.substr(3).empty() && abc.substr(1, 10) == ustring("bc"));
     EXPECT_THROW(abc.substr(4), std::out_of_range);
@@ -66,6 +70,8 @@ TEST(Ustring, EveryChangeOfTheBytesInvalidatesTheUtf16Text) {
     s.assign("caf").append(U(u"\u00e9 au lait"), 2).append(static_cast<unsigned short>('!'), 2) += U(u"\u00df");
     EXPECT_STREQ(s.c_str(), "caf\xC3\xA9 !!\xC3\x9F");
     EXPECT_STREQ(s.assign(s.c_str_utf16(), 2).c_str(), "ca");
+    ustring fresh;  // a new text's cache holds nothing yet
+    EXPECT_TRUE(*fresh.c_str_utf16() == 0 && fresh.append(static_cast<unsigned short>('x'), 1) == ustring("x"));
     ustring t("\t\n x y\r\n");
     t.trim(" \t\r\n"), t.ltrim(ustring("x")), t.rtrim(ustring(""));
     EXPECT_STREQ(t.c_str(), " y");
@@ -93,7 +99,9 @@ TEST(Ustring, SearchesAgreeInEveryArgumentForm) {
         {'r', "abcbc", "c", 99, 4}, {'o', "abcbc", "c", 3, 4}, {'o', "ab\xC3\xA9", "\xA9\xC3", 0, 2},
         {'n', "abc", "", 2, 2}, {'n', "abba c", "ab", 0, 4}, {'l', "abcbc", "b", 2, 1},
         {'l', "abc", "xa", npos, 0}, {'L', "abcbc", "", 2, 2}, {'L', "abc", "abc", npos, npos},
-        {'l', "abcbc", "c", npos, 4}};
+        {'l', "abcbc", "c", npos, 4}, {'f', "abc", "c", 2, 2}, {'f', "abc", "c", 3, npos}, {'r', "abc", "c", 3, 2},
+        {'o', "abc", "c", 3, npos}, {'n', "abc", "x", 3, npos}, {'l', "abc", "c", 3, 2}, {'L', "abc", "x", 3, 2},
+        {'l', "abc", "a", 0, 0}, {'L', "abc", "b", 0, 0}, {'r', "abc", "a", 0, 0}};  // from either end
     for (const auto& r : rows) {
         SCOPED_TRACE(std::string(1, r.op) + " in '" + r.text + "' of '" + r.arg + "'");
         const ustring t(r.text);
@@ -109,7 +117,8 @@ TEST(Ustring, OrderIsTheFirstByteDifference) {
     const struct { const char *a, *b; size_t n; bool fold; int expected; } rows[] = {
         {"ab", "abc", npos, false, -'c'}, {"abc", "ab", npos, false, 'c'},
         {"\xC3\xA9", "e", npos, false, 0xC3 - 'e'}, {"abcd", "abxy", 3, false, 'c' - 'x'},
-        {"abcd", "abxy", 2, false, 0}, {"a", "b", 0, false, 0}, {"ABC", "abc", npos, true, 0},
+        {"abcd", "abxy", 2, false, 0}, {"a", "b", 0, false, 0}, {"ab", "ab", 3, false, 0},
+        {"ab", "abc", 3, false, -'c'}, {"ABC", "abc", npos, true, 0},
         {"Z", "[", npos, true, 'z' - '['}, {"Ab", "aBc", npos, true, -'c'},
         {"\xC3\x89", "\xC3\xA9", npos, true, 0x89 - 0xA9}};  // only ASCII letters fold
     for (const auto& r : rows) {
