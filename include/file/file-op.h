@@ -145,10 +145,10 @@ int FSRemove(const ustring& path, bool recursive);
 // ---- Durability ----
 
 // A batch of new files is made durable in two steps: FSSyncNewFile on each file once it is
-// complete (size: its length), then FSSyncVolume on any path of the same volume, after which every file of the
+// complete, then FSSyncVolume on any path of the same volume, after which every file of the
 // batch and every name change made so far survive a power cut. FSSyncPath makes one file's
 // data, or the names in one folder (a rename into or out of it), durable on its own.
 // 0, or -1 with the system's reason logged.
-int FSSyncNewFile(const ustring& path, int64_t size);
+int FSSyncNewFile(const ustring& path);
 int FSSyncVolume(const ustring& path);
 int FSSyncPath(const ustring& path);

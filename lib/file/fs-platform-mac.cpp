@@ -66,7 +66,7 @@ int FcntlSync(const char* path, int command) {
 // what it holds at a power cut; only F_FULLFSYNC empties it, at the cost of a full drive
 // flush. So each new file gets F_BARRIERFSYNC (its data handed to the drive, ordered before
 // what follows) and the batch one F_FULLFSYNC at the end, as Apple advises for many files.
-int StartWriteback(const char* path, int64_t /*size*/) {
+int StartWriteback(const char* path) {
     return FcntlSync(path, F_BARRIERFSYNC);
 }
 

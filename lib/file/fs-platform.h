@@ -3,7 +3,6 @@
 // per system (fs-platform-mac.cpp on macOS, fs-platform-linux.cpp elsewhere); CMake picks it.
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 
 // Writes into buf (size bytes, zeroed first) the spelling of the existing path `path` as the
@@ -18,10 +17,10 @@ int StoredSpelling(const char* path, bool follow_leaf, char* buf, size_t size);
 int FileSystemTypeName(const char* path, std::string& name);
 
 // Durability of what was written. A batch of new files becomes durable in two steps:
-// StartWriteback on each file once it is complete (size: its length), then FlushVolume on any file or folder of
+// StartWriteback on each file once it is complete, then FlushVolume on any file or folder of
 // the same volume, which also makes every change of names made so far durable. FlushOne
 // makes one file's data, or the names in one folder, durable on its own. Each returns 0, or
 // an errno value. How each system is asked, and why, is said in its implementation.
-int StartWriteback(const char* path, int64_t size);
+int StartWriteback(const char* path);
 int FlushVolume(const char* path);
 int FlushOne(const char* path);

@@ -20,8 +20,8 @@ int Logged(int err, const char* who, const ustring& path) {
 
 }  // namespace
 
-int FSSyncNewFile(const ustring& path, int64_t size) {
-    return Logged(StartWriteback(path.c_str(), size), "FSSyncNewFile", path);
+int FSSyncNewFile(const ustring& path) {
+    return Logged(StartWriteback(path.c_str()), "FSSyncNewFile", path);
 }
 
 int FSSyncVolume(const ustring& path) {

@@ -183,8 +183,7 @@ TEST_F(FileOp, RenameAndRemoveTellFailuresApartAndNeverFollowLinks) {
 }
 
 TEST_F(FileOp, FlushesReachFilesAndFoldersAndSayWhyTheyFail) {
-    EXPECT_TRUE(FSSyncNewFile(U("real/data"), 1 << 20) == 0 && FSSyncNewFile(U("none"), 0) == 0 &&
-                FSSyncNewFile(U("none"), 1 << 20) == -1 && FSSyncVolume(U("real")) == 0 &&
+    EXPECT_TRUE(FSSyncNewFile(U("real/data")) == 0 && FSSyncVolume(U("real")) == 0 &&
                 FSSyncPath(U("real/data")) == 0 && FSSyncPath(U("real")) == 0);
     ASSERT_EQ(mkfifo(path("fifo").c_str(), 0600), 0);
     EXPECT_EQ(FSSyncPath(U("fifo")), -1) << "a FIFO has nothing to flush, and opening it must not block";

@@ -335,8 +335,7 @@ int Extractor::Extract() {
                   ErrorText(writer.get()).c_str());
             return -1;
         }
-        if (archive_entry_filetype(entry) == AE_IFREG &&
-            FSSyncNewFile(target, archive_entry_size(entry)) != 0)
+        if (archive_entry_filetype(entry) == AE_IFREG && FSSyncNewFile(target) != 0)
             return -1;
     }
 }
