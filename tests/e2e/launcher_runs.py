@@ -6,6 +6,7 @@ case's own children and the processes with its HOME (its clients) are ever signa
   launcher_runs.py --build BUILD_DIR (--case NAME | --list)
 """
 import argparse
+import contextlib
 import fcntl
 import glob
 import io
@@ -23,6 +24,7 @@ sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), ".."
 import common  # noqa: E402
 
 OLD, NEW, NOBODY = "1.0.100", "1.0.200", 65534
+AS_NOBODY = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
 READY = "user installation is ready, removing backup app"
 ROLLBACK = "Failed to extract package, rollback to old installation"
 REFUSED = "app has already launched, return"
@@ -37,6 +39,17 @@ class Failure(Exception):
 def check(ok, what):
     if not ok:
         raise Failure(what)
+
+
+def write(path, data):
+    with open(path, "wb" if isinstance(data, bytes) else "w") as f:
+        f.write(data)
+
+
+def wait_until(ready, timeout=30, step=0.05):
+    deadline = time.time() + timeout
+    while not ready() and time.time() < deadline:
+        time.sleep(step)
 
 
 def case(*names):
@@ -63,8 +76,7 @@ class Run:
         exe = common.make_bundle(self.launcher, self.trees[tree], version,
                                  f"{self.work}/{name}.app")
         if package is not None:
-            with open(f"{self.work}/{name}.app/Contents/Resources/package/skelda.vpk", "wb") as f:
-                f.write(package)
+            write(f"{self.work}/{name}.app/Contents/Resources/package/skelda.vpk", package)
         return exe
 
     def package(self, name="New"):
@@ -74,10 +86,9 @@ class Run:
         return common.env_for(self.home, **extra)
 
     def start(self, exe, env=None, user=None, stdout=None, closed=False):
-        """`stdout`: a descriptor for standard output in place of the file below; `closed`:
-        the launcher starts with descriptors 0, 1 and 2 closed."""
-        cmd = [exe] if not user else ["setpriv", f"--reuid={user}", f"--regid={user}",
-                                      "--clear-groups", exe]
+        """`user`: as nobody; `stdout`: a descriptor for standard output in place of the file
+        below; `closed`: the launcher starts with descriptors 0, 1 and 2 closed."""
+        cmd = AS_NOBODY * bool(user) + [exe]
         if closed:
             cmd = ["sh", "-c", 'exec "$@" <&- >&- 2>&-', "sh", *cmd]
         # Output goes to files, not pipes: the client inherits them and outlives the launcher.
@@ -132,12 +143,19 @@ class Run:
     def clients(self):
         return common.processes_of_home(self.home)
 
+    def expect_a_client(self, what):
+        wait_until(self.clients)
+        check(self.clients(), what)
+
+    def give_home_to_nobody(self):
+        os.chmod(self.work, 0o755)
+        subprocess.run(["chown", "-R", f"{NOBODY}:{NOBODY}", self.home], check=True)
+
     def client_script(self, *lines, tree="new"):
         """The tree's client becomes the sample client with `lines` run first."""
         exe = os.path.join(self.trees[tree], "Contents/MacOS/skelda-backup-ui")
         shebang, rest = open(common.SAMPLE_CLIENT).read().split("\n", 1)
-        with open(exe, "w") as f:
-            f.write("\n".join([shebang, 'dir="$HOME/.SkeldaBackup"', *lines, rest]))
+        write(exe, "\n".join([shebang, 'dir="$HOME/.SkeldaBackup"', *lines, rest]))
 
     def expect_clients_inherit_nothing(self):
         """Every client still running holds descriptors 0 to 2 only, for good (a descriptor
@@ -203,6 +221,11 @@ def expect_package(r, package=None):
     check(found == files, f"APP holds {len(found)} files, not the package's {len(files)}")
 
 
+def expect_upgraded(r, package=None):
+    r.expect(READY)
+    expect_package(r, package)
+
+
 # ---- whole runs, second instances and the client ----
 
 @case()
@@ -238,25 +261,26 @@ def three_runs_then_an_upgrade_leave_one_client(r):
     expect_package(r)
 
 
-def dead_pipe():
+@contextlib.contextmanager
+def dead_pipe(wanted=True):
     """The writing end of a pipe whose reading end is closed: a write raises SIGPIPE."""
-    read, write = os.pipe()
-    os.close(read)
-    return write
+    read, write = os.pipe() if wanted else (None, None)
+    try:
+        read is None or os.close(read)
+        yield write
+    finally:
+        write is None or os.close(write)
 
 
 @case("stdout_a_dead_pipe_no_upgrade", "stdout_a_dead_pipe_and_an_upgrade")
 def stdout_a_dead_pipe(r, name):
     """`skelda-launcher | true`: the first output line meets a pipe nobody reads."""
     r.install_old()
-    exe = r.bundle(OLD, "Old", tree="old") if name.endswith("no_upgrade") else r.bundle()
-    out = dead_pipe()
-    try:
-        r.run(exe, stdout=out)
-    finally:
-        os.close(out)
-    r.expect(RUNNING, "no need to upgrade" if name.endswith("no_upgrade") else READY)
-    if not name.endswith("no_upgrade"):
+    upgrade = not name.endswith("no_upgrade")
+    with dead_pipe() as out:
+        r.run(r.bundle() if upgrade else r.bundle(OLD, "Old", tree="old"), stdout=out)
+    r.expect(RUNNING, READY if upgrade else "no need to upgrade")
+    if upgrade:
         expect_package(r)
     r.client()
 
@@ -268,8 +292,7 @@ def descriptors_0_1_2_closed(r):
     r.install_old()
     r.client_script("echo 'the client says'; echo 'the client says' >&2")
     r.run(r.bundle(), closed=True)
-    r.expect(READY)
-    expect_package(r)
+    expect_upgraded(r)
     pid, log = r.client(), os.path.realpath(f"{r.user}/log/launcher.log")
     std = [os.path.realpath(f"/proc/{pid}/fd/{fd}") for fd in range(3)]
     check(std == ["/dev/null"] * 3, f"the client's descriptors 0-2: {std}")
@@ -299,9 +322,7 @@ def client_records_its_descriptors(r):
                     f"exec python3 -c '{RECORD}' \"$dir/descriptors\"")
     r.run(r.bundle())
     r.client()
-    deadline = time.time() + 30
-    while not os.path.exists(f"{r.user}/descriptors") and time.time() < deadline:
-        time.sleep(0.05)
+    wait_until(lambda: os.path.exists(f"{r.user}/descriptors"))
     fds = open(f"{r.user}/descriptors").read()
     check(fds == "0 1 2", f"the client's descriptors: {fds}")
     signals = open(f"{r.user}/signals").read()
@@ -351,9 +372,7 @@ def busy_launcher_refuses_others_and_leaves_no_lock_when_killed(r):
     r.client()
     exe = r.bundle()
     holder = r.start(exe, env=r.env(XDG_RUNTIME_DIR=r.work))
-    deadline = time.time() + 60
-    while "local appdata exist" not in r.log() and time.time() < deadline:
-        time.sleep(0.02)
+    wait_until(lambda: "local appdata exist" in r.log(), 60, 0.02)
     no_xdg = {k: v for k, v in r.env().items() if k != "XDG_RUNTIME_DIR"}
     for proc in [r.start(exe, env=no_xdg) for _ in range(3)] + [r.start(exe) for _ in range(3)]:
         r.wait(proc)
@@ -372,8 +391,7 @@ def lock_held_by_another_account_refuses_nothing(r):
     folder = f"/tmp/skelda-launcher-{NOBODY}"
     shutil.rmtree(folder, ignore_errors=True)
     exe = r.bundle()
-    os.chmod(r.work, 0o755)
-    subprocess.run(["chown", "-R", f"{NOBODY}:{NOBODY}", r.home], check=True)
+    r.give_home_to_nobody()
     r.run(exe, user=NOBODY)
     os.chown(folder, 0, 0)
     os.chmod(folder, 0o777)
@@ -430,8 +448,7 @@ def non_ascii_names_install_under_every_locale(r, name):
     package = client_package(r, [(n, n.encode()) for n in (
         "Contents/Resources/fr.lproj/Préférences.strings", "Contents/Resources/ja.lproj/設定.txt")])
     r.run(r.bundle(package=package), env=env)
-    r.expect(READY)
-    expect_package(r, package)
+    expect_upgraded(r, package)
 
 
 UNTRUSTED = {  # how ui.pid is made: the reason logged
@@ -453,11 +470,9 @@ def untrusted_pid_file(r, name):
     elif name == "pid_file_is_a_folder":
         os.makedirs(pid_file)
     else:  # a live process that started before the file was written, not a client of r.home
-        user = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
-        other = subprocess.Popen(user * (name == "pid_of_another_account") + ["sleep", "600"])
+        other = subprocess.Popen(AS_NOBODY * (name == "pid_of_another_account") + ["sleep", "600"])
         r.children.append(other)
-        with open(pid_file, "w") as f:
-            f.write(f"pid={other.pid}\n")
+        write(pid_file, f"pid={other.pid}\n")
         if name == "pid_file_dated_ahead":
             os.utime(pid_file, (time.time() + 3600,) * 2)
     r.run(r.bundle(), timeout=60)
@@ -465,10 +480,7 @@ def untrusted_pid_file(r, name):
     r.expect(f"[NOTE] mac/running-client.cpp(", f"pid file '{pid_file}' not trusted: {reason}\n",
              READY)
     check(other is None or other.poll() is None, "the process of the pid file was signalled")
-    deadline = time.time() + 30
-    while not r.clients() and time.time() < deadline:
-        time.sleep(0.05)
-    check(r.clients(), "the user's own client was not started")
+    r.expect_a_client("the user's own client was not started")
 
 
 info = lambda build: b"[Version]\nbuild_version=" + build.encode() + b"\n"  # noqa: E731
@@ -504,31 +516,28 @@ def upgrade_decision(r, name):
     exe = r.bundle()
     target_info = f"{r.work}/New.app/Contents/Resources/INFO"
     for path, content in ((f"{r.app}/Contents/Resources/INFO", source), (target_info, target)):
-        if content == "a folder":
-            os.remove(path)
-            os.makedirs(path)
-        elif isinstance(content, str):
+        if content == "mode 000, read by nobody":
             os.chmod(path, 0)
-        else:
-            os.remove(path)
-            if content is not None:
-                with open(path, "wb") as f:
-                    f.write(content)
+            continue
+        os.remove(path)
+        if content == "a folder":
+            os.makedirs(path)
+        elif content is not None:
+            write(path, content)
     if not client:
         os.remove(f"{r.app}/Contents/MacOS/skelda-backup-ui")
     old = common.tree_digest(r.app)
     nobody = "nobody" in str(target)
     if nobody:
-        os.chmod(r.work, 0o755)
-        subprocess.run(["chown", "-R", f"{NOBODY}:{NOBODY}", r.home], check=True)
+        r.give_home_to_nobody()
     r.run(exe, user=NOBODY if nobody else None)
     if isinstance(target, str):
         r.expect(f"[WARNING] skelda-service.cpp(", f"cannot read version file '{target_info}': "
                  + ("Permission denied" if nobody else "not a regular file") + "\n")
-    r.expect(READY if upgrades else "no need to upgrade")
     if upgrades:
-        expect_package(r)
+        expect_upgraded(r)
     else:
+        r.expect("no need to upgrade")
         r.expect_app(old, "the old application")
 
 
@@ -540,8 +549,8 @@ def ten_backup_names_taken_and_a_malformed_level_file(r):
     for name in taken:
         os.makedirs(f"{name}/left")
     exe = r.bundle()
-    with open(f"{r.work}/New.app/log/launcher.debug", "wb") as f:
-        f.write(b"launcher_debug\n=7\nservice_debug=seven\n\"unterminated=7\n\xff\xfe=1\n")
+    write(f"{r.work}/New.app/log/launcher.debug",
+          b"launcher_debug\n=7\nservice_debug=seven\n\"unterminated=7\n\xff\xfe=1\n")
     r.run(exe)
     r.expect(f"failed to backup app from '{r.app}' -> '{r.app}_tmp9' at max retries, exiting\n")
     r.expect_app(old, "the old application")
@@ -563,8 +572,7 @@ def full_disk(r, name):
         return
     old = None if name == "first_install_does_not_fit" else r.install_old()
     if name != "disk_already_full":
-        with open(os.path.join(r.trees["new"], "Contents/Resources/big.bin"), "wb") as f:
-            f.write(os.urandom(8 << 20))
+        write(os.path.join(r.trees["new"], "Contents/Resources/big.bin"), os.urandom(8 << 20))
     exe, saved, after = r.bundle(), f"{r.work}/saved", f"{r.work}/after"
     os.makedirs(r.user, exist_ok=True)
     shutil.copytree(r.user, saved, symlinks=True)
@@ -574,22 +582,15 @@ def full_disk(r, name):
     script = (f'set -e; mount -t tmpfs -o size=4m tmpfs "$HOME/.SkeldaBackup"; '
               f'cp -a "{saved}/." "$HOME/.SkeldaBackup/"; {fill}"{exe}"; '
               f'rm -f "$HOME/.SkeldaBackup/filler"; cp -a "$HOME/.SkeldaBackup/." "{after}/"')
-    dead = name.endswith("a_dead_pipe") and dead_pipe()
-    with tempfile.TemporaryFile() as err:  # not a pipe: the client started inherits it
-        try:
-            subprocess.run(["unshare", "-m", "--propagation", "private", "sh", "-c", script],
-                           env=r.env(), stdout=subprocess.DEVNULL, stderr=dead or err,
-                           check=True, timeout=300)
-        finally:
-            if dead:
-                os.close(dead)
+    # err is not a pipe: the client started inherits it
+    with dead_pipe(name.endswith("a_dead_pipe")) as dead, tempfile.TemporaryFile() as err:
+        subprocess.run(["unshare", "-m", "--propagation", "private", "sh", "-c", script],
+                       env=r.env(), stdout=subprocess.DEVNULL, stderr=dead or err,
+                       check=True, timeout=300)
         out = err.seek(0) or err.read().decode(errors="replace")
     if dead:  # nothing said can be read: the old application is back, whole, and runs
         check(common.tree_digest(f"{after}/Skelda.app") == old, "the old application is not back")
-        deadline = time.time() + 30
-        while not r.clients() and time.time() < deadline:
-            time.sleep(0.05)
-        check(r.clients(), "no client was started")
+        r.expect_a_client("no client was started")
         return
     # Lines that the full log file did not take reach standard error, whole.
     said = open(f"{after}/log/launcher.log", errors="replace").read() + out
@@ -625,11 +626,10 @@ def same_client_same_bundle(r):
                 for p in ("Resources/package/skelda.vpk", "Resources/INFO", "Info.plist")]
     first = made(tree, "A", "022")
     time.sleep(1.1)  # a time stamp of the run itself, in seconds, would differ
-    nobody = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups"]
-    check(made(copy, "B", "077", nobody) == first, "the bundles of one client differ")
+    check(made(copy, "B", "077", AS_NOBODY) == first, "the bundles of one client differ")
     data = bytearray(open(twin, "rb").read())
     data[0] ^= 1
-    open(twin, "wb").write(data)
+    write(twin, bytes(data))
     check(made(copy, "C", "022")[0] != first[0], "a changed client file left the package as it was")
 
 
