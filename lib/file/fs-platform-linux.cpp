@@ -109,9 +109,15 @@ int FileSystemTypeName(const char* path, std::string& name) {
 
 namespace {
 
-int OpenToFlush(const char* path) {
-    // Not blocking: a FIFO in the way must not stop the flush.
-    return open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+// Opens path without blocking (a FIFO in the way must not stop the flush) and applies flush to
+// it. 0, or errno.
+int FlushOpened(const char* path, int (*flush)(int)) {
+    const int fd = open(path, O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0)
+        return errno;
+    const int rc = flush(fd) == 0 ? 0 : errno;
+    close(fd);
+    return rc;
 }
 
 }  // namespace
@@ -126,19 +132,9 @@ int StartWriteback(const char* /*path*/) {
 }
 
 int FlushVolume(const char* path) {
-    const int fd = OpenToFlush(path);
-    if (fd < 0)
-        return errno;
-    const int rc = syncfs(fd) == 0 ? 0 : errno;
-    close(fd);
-    return rc;
+    return FlushOpened(path, syncfs);
 }
 
 int FlushOne(const char* path) {
-    const int fd = OpenToFlush(path);
-    if (fd < 0)
-        return errno;
-    const int rc = fsync(fd) == 0 ? 0 : errno;
-    close(fd);
-    return rc;
+    return FlushOpened(path, fsync);
 }

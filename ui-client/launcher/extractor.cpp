@@ -142,6 +142,28 @@ Reader OpenHeaderPass(const ustring& dest_dir, const ustring& archive_path) {
     return reader;
 }
 
+// Hands each data block of the reader's current entry to take(buffer, size, offset), which
+// answers false to stop. 0 at the end of the entry; -1 when a block cannot be read (logged)
+// or take stopped.
+template <typename Take>
+int ReadDataBlocks(archive* reader, Take take) {
+    for (;;) {
+        const void* buffer = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        const int r = archive_read_data_block(reader, &buffer, &size, &offset);
+        if (r == ARCHIVE_EOF)
+            return 0;
+        if (r != ARCHIVE_OK) {
+            SKLOG(ERROR, kComponent, "archive_read_data_block failed: '%s'\n",
+                  ErrorText(reader).c_str());
+            return -1;
+        }
+        if (!take(buffer, size, offset))
+            return -1;
+    }
+}
+
 // Whether the entry named `name` in the package is the version file as a plain file (a link
 // or a folder of that name is extracted in its place like any other entry).
 bool IsVersionFile(const char* name, archive_entry* entry) {
@@ -159,18 +181,7 @@ bool HoldBack(archive* reader, archive_entry* entry, HeldFile& held) {
         SKLOG(ERROR, kComponent, "Allocate extractor failed\n");
         return false;
     }
-    for (;;) {
-        const void* buffer = nullptr;
-        size_t size = 0;
-        la_int64_t offset = 0;
-        const int r = archive_read_data_block(reader, &buffer, &size, &offset);
-        if (r == ARCHIVE_EOF)
-            return true;
-        if (r != ARCHIVE_OK) {
-            SKLOG(ERROR, kComponent, "archive_read_data_block failed: '%s'\n",
-                  ErrorText(reader).c_str());
-            return false;
-        }
+    const auto keep = [&](const void* buffer, size_t size, la_int64_t offset) {
         if (offset < 0 || offset + static_cast<la_int64_t>(size) > kVersionFileMax) {
             SKLOG(ERROR, kComponent, "version file '%s' is larger than %lld bytes\n",
                   archive_entry_pathname(entry), static_cast<long long>(kVersionFileMax));
@@ -180,7 +191,9 @@ bool HoldBack(archive* reader, archive_entry* entry, HeldFile& held) {
         if (held.data.size() < end)
             held.data.resize(end);  // a hole reads as zeros
         std::memcpy(&held.data[static_cast<size_t>(offset)], buffer, size);
-    }
+        return true;
+    };
+    return ReadDataBlocks(reader, keep) == 0;
 }
 
 // Makes every entry written so far durable, then writes the held version file, if any, and
@@ -345,22 +358,11 @@ int Extractor::copy_data(archive* reader, archive* writer) {
         SKLOG(ERROR, kComponent, "Invalid Argument\n");
         return -1;
     }
-    for (;;) {
-        const void* buffer = nullptr;
-        size_t size = 0;
-        la_int64_t offset = 0;
-        const int r = archive_read_data_block(reader, &buffer, &size, &offset);
-        if (r == ARCHIVE_EOF)
-            return 0;
-        if (r != ARCHIVE_OK) {
-            SKLOG(ERROR, kComponent, "archive_read_data_block failed: '%s'\n",
-                  ErrorText(reader).c_str());
-            return -1;
-        }
-        if (archive_write_data_block(writer, buffer, size, offset) != ARCHIVE_OK) {
-            SKLOG(ERROR, kComponent, "archive_write_data_block failed: '%s'\n",
-                  ErrorText(writer).c_str());
-            return -1;
-        }
-    }
+    return ReadDataBlocks(reader, [writer](const void* buffer, size_t size, la_int64_t offset) {
+        if (archive_write_data_block(writer, buffer, size, offset) == ARCHIVE_OK)
+            return true;
+        SKLOG(ERROR, kComponent, "archive_write_data_block failed: '%s'\n",
+              ErrorText(writer).c_str());
+        return false;
+    });
 }
