@@ -31,7 +31,8 @@ int UnregisterBundle(const QString& app_path) {
 // changed (it ignores SIGPIPE, main.cpp): an ignored signal would otherwise stay ignored
 // across the exec. (glibc's own signals 32 and 33, below SIGRTMIN, which no caller can name,
 // are left ignored by glibc's posix_spawn itself; a program on glibc sets them up anew.) Its
-// descriptors are 0 to 2 alone: everything the launcher opens is close-on-exec.
+// descriptors are 0 to 2 alone: everything the launcher opens is close-on-exec, and the rest
+// is closed in the child.
 bool OpenBundle(const QString& app_path) {
     const QByteArray pid_file = QFile::encodeName(QFileInfo(app_path).path() + "/ui.pid");
     if (RunningClient(pid_file.constData()) > 0)
@@ -44,6 +45,9 @@ bool OpenBundle(const QString& app_path) {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_addchdir_np(&actions, home.constData());
+    // Whatever a library holds open at this moment without close-on-exec (Qt's font engine
+    // reading a font for the dialog on the main thread) stays with the launcher too.
+    posix_spawn_file_actions_addclosefrom_np(&actions, 3);
     posix_spawnattr_t attr;
     posix_spawnattr_init(&attr);
     sigset_t sigs;
