@@ -355,11 +355,12 @@ def every_descriptor_of_the_launcher_is_close_on_exec(r):
     check(f"{r.user}/log/launcher.log" in seen and
           f"{r.work}/New.app/Contents/Resources/package/skelda.vpk" in seen and
           f"{r.user}/upgrade.lock" in seen, f"not all seen: {sorted(seen)}")
-    # Less what others open in the process: AddressSanitizer's run time (the launcher's own
-    # /proc entries, pipes: the launcher makes none) and system libraries' files under /usr
-    # (a font that Qt reads while the dialog is drawn), which the spawn closes in the client.
-    bad = [t for t, ok in seen.items()
-           if not ok and not t.startswith((f"/proc/{proc.pid}/", "pipe:", "/usr/"))]
+    # Less what others open in the process: the sanitizers' run times (the launcher's own
+    # /proc entries, pipes: the launcher makes none; ThreadSanitizer's /tmp/tsan.* file) and
+    # system libraries' files under /usr (a font that Qt reads while the dialog is drawn),
+    # which the spawn closes in the client.
+    bad = [t for t, ok in seen.items() if not ok and
+           not t.startswith((f"/proc/{proc.pid}/", "pipe:", "/tmp/tsan.", "/usr/"))]
     check(not bad, f"without close-on-exec: {bad}")
 
 
